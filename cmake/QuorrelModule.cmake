@@ -6,9 +6,9 @@ target_compile_features(quorrel_options INTERFACE cxx_std_20)
 target_compile_definitions(quorrel_options INTERFACE QT_NO_CAST_TO_ASCII)
 # Results are prescribed to the last bit, so multiplication and addition must never be fused.
 target_compile_options(quorrel_options INTERFACE -Wall -Wextra -Wpedantic -Wnon-virtual-dtor
-                                                 -Woverloaded-virtual=1 -ffp-contract=off)
+                                                 -ffp-contract=off)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-    target_compile_options(quorrel_options INTERFACE -Wno-overloaded-virtual -Wno-unknown-warning-option)
+    target_compile_options(quorrel_options INTERFACE -Wno-overloaded-virtual)
 endif()
 if(QUORREL_WARNINGS_AS_ERRORS)
     target_compile_options(quorrel_options INTERFACE -Werror)

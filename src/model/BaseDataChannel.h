@@ -12,7 +12,8 @@
 #include <tuple>
 #include <vector>
 
-/// One measured or calculated curve: identifier, header row and samples. The samples are shared with the owning log.
+/// One measured or calculated curve: identifier, header row and samples. The samples are shared with the
+/// owning log.
 class BaseDataChannel
 {
 public:

@@ -7,7 +7,8 @@
 
 class DepthLogPass;
 
-/// A curve of a depth log pass. Lives as long as its pass; the members that look into the pass are defined with it.
+/// A curve of a depth log pass. Lives as long as its pass; the members that look into the pass are defined
+/// with it.
 class DepthLogDataChannel final : public BaseDepthDataChannel
 {
 public:

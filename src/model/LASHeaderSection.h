@@ -6,6 +6,7 @@
 #include "model/HeaderRow.h"
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 /// The rows of one header section of a LAS file, in file order.

@@ -9,12 +9,15 @@
 #include <QString>
 
 /// The key of a log: its survey and the MD5 hash of its file path in lower-case hexadecimal.
-struct LogPassIdentifier {
+struct LogPassIdentifier
+{
     KeyType survey_key = -1;
     QString hash;
 
     LogPassIdentifier() = default;
-    LogPassIdentifier(KeyType survey, QString const& log_pass_hash) : survey_key(survey), hash(log_pass_hash) {}
+    LogPassIdentifier(KeyType survey, QString const& log_pass_hash) : survey_key(survey), hash(log_pass_hash)
+    {
+    }
 
     [[nodiscard]] bool operator==(LogPassIdentifier const&) const = default;
 };

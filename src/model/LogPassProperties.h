@@ -7,8 +7,10 @@
 
 #include <QPen>
 
-/// How a log is shown. Shared by a log with its channels and curves, so that they see changes without being told.
-struct LogPassProperties {
+/// How a log is shown. Shared by a log with its channels and curves, so that they see changes without being
+/// told.
+struct LogPassProperties
+{
     bool highlighted = false;
     bool hidden = false;
     LogPassIdentifier identifier;

@@ -7,7 +7,6 @@
 #include "model/DataStorageChannelRecord.h"
 
 class DepthLogPass;
-class QZ4SaveFile;
 
 /// A free-standing calculated channel held in a survey's storage, with a depth axis of its own.
 class StorageDataChannel final : public BaseDepthDataChannel
@@ -20,14 +19,18 @@ public:
     /// Deep copy of the samples on the same depth, named "S<survey key>_L<log_pass_number>_<mnemonic>".
     StorageDataChannel(BaseDepthDataChannel const* source, int log_pass_number);
     /// @throws std::bad_weak_ptr
-    StorageDataChannel(std::weak_ptr<SampleVector> const& samples, DepthChannel const& depth, QString const& name,
-                       HeaderRow const& curve_info, DataChannelIdentifier const& identifier);
+    StorageDataChannel(std::weak_ptr<SampleVector> const& samples, DepthChannel const& depth,
+                       QString const& name, HeaderRow const& curve_info,
+                       DataChannelIdentifier const& identifier);
     /// Restores a stored channel; shift (metres) before stretch. Takes `depths` over.
     StorageDataChannel(DATA_STORAGE_CHANNEL_Struct const& record, bool is_metric, float shift, float stretch,
                        std::vector<double>& depths, std::shared_ptr<SampleVector> const& samples);
 
     [[nodiscard]] QString GetName() const override { return name_; }
-    [[nodiscard]] LogPassProperties const& GetLogPassProperties() const override { return dummy_log_pass_properties_; }
+    [[nodiscard]] LogPassProperties const& GetLogPassProperties() const override
+    {
+        return dummy_log_pass_properties_;
+    }
     [[nodiscard]] bool IsDependentOn(DataChannelIdentifier const& identifier) const override;
     [[nodiscard]] DepthChannel const& GetDepth() const override { return depth_; }
     [[nodiscard]] DepthChannel& GetDepth() { return depth_; }
@@ -46,8 +49,6 @@ public:
     /// Takes the target's depth axis and this channel's values at its depths.
     /// @throws std::invalid_argument without depth overlap
     void ResampleDepth(BaseDepthDataChannel const* target);
-
-    void WriteState_StorageDataChannel(QZ4SaveFile& file) const;
 
     static LogPassProperties dummy_log_pass_properties_;
 

@@ -7,8 +7,8 @@
 
 class TimeLog;
 
-/// A curve of a time log: a stationary measurement at one depth. Lives as long as its log; the members that look
-/// into the log are defined with it.
+/// A curve of a time log: a stationary measurement at one depth. Lives as long as its log; the members that
+/// look into the log are defined with it.
 class TimeLogDataChannel final : public BaseDataChannel
 {
 public:

@@ -24,9 +24,16 @@ endif()
 
 # quorrel_module(<target> SOURCES <files...> LINK <targets...>)
 # A static library that sees only what it links: a wrong include of another floor's generated
-# header or symbol does not link.
+# header or symbol does not link. A folder of headers alone makes an interface library.
 function(quorrel_module target)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK")
+    set(sources ${arg_SOURCES})
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    if(NOT sources)
+        add_library(${target} INTERFACE)
+        target_link_libraries(${target} INTERFACE quorrel_options ${arg_LINK})
+        return()
+    endif()
     add_library(${target} STATIC ${arg_SOURCES})
     target_link_libraries(${target} PUBLIC quorrel_options ${arg_LINK})
 endfunction()

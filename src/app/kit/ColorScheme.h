@@ -5,8 +5,8 @@
 
 #include <QObject>
 
-/// Tells whether the desktop's colour scheme is dark, and when that changes. Uses QStyleHints::colorScheme where
-/// the toolkit has it, otherwise the lightness of the application palette.
+/// Tells whether the desktop's colour scheme is dark, and when that changes. Uses QStyleHints::colorScheme
+/// where the toolkit has it, otherwise the lightness of the application palette.
 class ColorScheme : public QObject
 {
     Q_OBJECT
@@ -21,5 +21,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Update();
+
     bool was_dark_;
 };

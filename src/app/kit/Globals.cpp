@@ -3,8 +3,7 @@
 
 #include "app/kit/Globals.h"
 
-namespace Quorrel
-{
+namespace Quorrel {
 QSize available_screen_size_pixels(-1, -1);
 double DPI_X = 0;
 double DPI_Y = 0;

@@ -6,8 +6,7 @@
 #include <QSize>
 
 /// Process-wide display state. Written on the main thread only, by the main frame.
-namespace Quorrel
-{
+namespace Quorrel {
 /// Available size of the screen under the frame, in pixels; (-1, -1) until the frame's first resize.
 extern QSize available_screen_size_pixels;
 /// Logical dots per inch of that screen; 0 until the frame's first resize.

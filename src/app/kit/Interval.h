@@ -9,7 +9,8 @@
 
 /// Two doubles, `lower` then `upper`, without any order between them unless Sort() was called.
 /// The default is the empty interval (+infinity, -infinity), the identity for growing by minimum and maximum.
-struct Interval {
+struct Interval
+{
     double lower = std::numeric_limits<double>::infinity();
     double upper = -std::numeric_limits<double>::infinity();
 
@@ -89,5 +90,11 @@ struct Interval {
     return a.lower == b.lower && a.upper == b.upper;
 }
 
-[[nodiscard]] constexpr Interval operator+(Interval interval, double value) { return interval += value; }
-[[nodiscard]] constexpr Interval operator-(Interval interval, double value) { return interval -= value; }
+[[nodiscard]] constexpr Interval operator+(Interval interval, double value)
+{
+    return interval += value;
+}
+[[nodiscard]] constexpr Interval operator-(Interval interval, double value)
+{
+    return interval -= value;
+}

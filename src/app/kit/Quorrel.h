@@ -15,8 +15,7 @@ class QWidget;
 
 /// Numbers and depths as text, in the number format and depth unit that SettingsSingleton holds at the
 /// moment of the call. All but SetWindowSize may be called from worker threads.
-namespace Quorrel
-{
+namespace Quorrel {
 /// Text of `value` in the locale of the settings, in format 'f', or 'e' when `scientific`.
 /// A negative precision gives the shortest text that reads back to the same (double) number.
 [[nodiscard]] QString FloatTypeToString(float value, int precision, bool scientific = false);

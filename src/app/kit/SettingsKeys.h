@@ -4,8 +4,7 @@
 #pragma once
 
 /// Keys of the persistent settings, in the order in which they are read.
-namespace settings_keys
-{
+namespace settings_keys {
 inline constexpr char const* DECIMAL_SEPARATOR_KEY = "decimal_separator";
 inline constexpr char const* THOUSANDS_SEPARATOR_KEY = "thousands_separator";
 inline constexpr char const* DEPTH_UNIT_KEY = "depth_unit";
@@ -23,7 +22,8 @@ inline constexpr char const* MFC_MNEMS = "mfc_mnems";
 inline constexpr char const* DISPLAY_MFC_WINDOWS_AUTOMATICALLY = "display_mfc_windows_automatically";
 inline constexpr char const* BACKGROUND_COLOR = "background_color";
 inline constexpr char const* SPLITTER_HANDLE_COLOR = "splitter_handle_color";
-inline constexpr char const* OVERRIDE_DEFAULT_SPLITTER_HANDLE_COLOR = "override_default_splitter_handle_color";
+inline constexpr char const* OVERRIDE_DEFAULT_SPLITTER_HANDLE_COLOR =
+    "override_default_splitter_handle_color";
 inline constexpr char const* WELL_DETAILS_JSON_IMPORT_DATA_PATH = "well_details_json_data_import_path";
 inline constexpr char const* DLIS_CHANNEL_SELECTION = "dlis_channel_selection";
 } // namespace settings_keys

@@ -13,6 +13,8 @@
 #include <QString>
 #include <QStringList>
 
+class QSettings;
+
 /// All user preferences of the process, read from the toolkit's QSettings store at the first Instance() and
 /// written back once, by the destructor at exit; a crash loses the changes of that run.
 /// Getters may be called from worker threads, setters on the main thread only (there is no lock).
@@ -67,16 +69,28 @@ public:
     [[nodiscard]] static QStringList GetDefaultMfcMnems();
     void SetMfcMnems(QStringList const& mnems) { mfc_mnems_ = mnems; }
     /// Remembered channel choices of the DLIS conversion, per key.
-    [[nodiscard]] QMap<QString, QStringList> GetDlisChannelSelection() const { return dlis_channel_selection_; }
-    void SetDlisChannelSelection(QMap<QString, QStringList> const& selection) { dlis_channel_selection_ = selection; }
+    [[nodiscard]] QMap<QString, QStringList> GetDlisChannelSelection() const
+    {
+        return dlis_channel_selection_;
+    }
+    void SetDlisChannelSelection(QMap<QString, QStringList> const& selection)
+    {
+        dlis_channel_selection_ = selection;
+    }
     [[nodiscard]] bool GetDisplayMfcWindows() const { return display_mfc_windows_; }
     void SetDisplayMfcWindows(bool display) { display_mfc_windows_ = display; }
     [[nodiscard]] QColor GetBackgroundColor() const { return background_color_; }
     void SetBackgroundColor(QColor const& color) { background_color_ = color; }
     [[nodiscard]] QString GetSplitterHandleColor() const { return splitter_handle_color_; }
     void SetSplitterHandleColor(QString const& color) { splitter_handle_color_ = color; }
-    [[nodiscard]] bool GetOverrideDefaultSplitterHandleColor() const { return override_splitter_handle_color_; }
-    void SetOverrideDefaultSplitterHandleColor(bool override_color) { override_splitter_handle_color_ = override_color; }
+    [[nodiscard]] bool GetOverrideDefaultSplitterHandleColor() const
+    {
+        return override_splitter_handle_color_;
+    }
+    void SetOverrideDefaultSplitterHandleColor(bool override_color)
+    {
+        override_splitter_handle_color_ = override_color;
+    }
     [[nodiscard]] QString GetWellDetailsJsonImportDataPath() const { return well_details_json_path_; }
     void SetWellDetailsJsonImportDataPath(QString const& path) { well_details_json_path_ = path; }
 
@@ -84,8 +98,8 @@ private:
     SettingsSingleton();
     ~SettingsSingleton();
 
-    void LoadDlisChannelSelection();
-    void SaveDlisChannelSelection() const;
+    void LoadDlisChannelSelection(QSettings const& settings);
+    void SaveDlisChannelSelection(QSettings& settings) const;
 
     QChar stored_decimal_separator_;
     QChar stored_thousands_separator_;

@@ -9,8 +9,8 @@
 /// Makes the replacement of a file safe: the writer writes to GetFullTemporaryFileName() and, only when that
 /// succeeded, calls MoveTemporaryFileToDestination(). Errors are reported by the return values alone.
 /// The private directory is hidden and stands beside the destination (so that the move is a plain rename
-/// on one volume), or in the system's temporary folder where that cannot be written; it removes itself and what
-/// is left in it.
+/// on one volume), or in the system's temporary folder where that cannot be written; it removes itself and
+/// what is left in it.
 class TemporaryFile
 {
 public:
@@ -24,6 +24,8 @@ public:
     [[nodiscard]] bool MoveTemporaryFileToDestination();
 
 private:
+    static QTemporaryDir MakeDirectory(QString const& destination);
+
     QString full_temporary_file_name_;
     QString destination_;
     QTemporaryDir directory_;

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "app/kit/Interval.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double nan_value = std::numeric_limits<double>::quiet_NaN();
+
+void ExpectInterval(Interval const& actual, double lower, double upper)
+{
+    EXPECT_EQ(actual.lower, lower);
+    EXPECT_EQ(actual.upper, upper);
+}
+} // namespace
+
+TEST(Interval, EmptyIsTheIdentityForGrowing)
+{
+    Interval grown;
+    ExpectInterval(grown, infinity, -infinity);
+    for (double const x : {3.0, -1.5, 2.0}) {
+        grown = Interval(std::min(grown.lower, x), std::max(grown.upper, x));
+    }
+    ExpectInterval(grown, -1.5, 3.0);
+}
+
+TEST(Interval, KeepsTheOrderOfItsEndsUntilSorted)
+{
+    Interval reversed(3, 1);
+    ExpectInterval(reversed, 3, 1);
+    for (double const x : {0.0, 1.0, 2.0, 3.0, 4.0}) {
+        EXPECT_FALSE(reversed.Contains(x)) << x;
+    }
+    EXPECT_EQ(reversed.Delta(), -2);
+    reversed.Sort();
+    ExpectInterval(reversed, 1, 3);
+    EXPECT_TRUE(reversed.Contains(1));
+    EXPECT_TRUE(reversed.Contains(3));
+    EXPECT_FALSE(reversed.Contains(std::nextafter(3.0, 4.0)));
+    EXPECT_FALSE(reversed.Contains(nan_value));
+}
+
+TEST(Interval, IsInside)
+{
+    EXPECT_TRUE(Interval(1, 2).IsInside(Interval(1, 2)));
+    EXPECT_TRUE(Interval(1, 2).IsInside(Interval(0, 3)));
+    EXPECT_FALSE(Interval(0, 2).IsInside(Interval(1, 3)));
+    EXPECT_FALSE(Interval(1, 4).IsInside(Interval(1, 3)));
+    EXPECT_TRUE(Interval().IsInside(Interval(5, 6)));
+}
+
+TEST(Interval, ForcesEachEndInsideOnItsOwn)
+{
+    struct Case
+    {
+        Interval start, other, expected;
+    };
+    for (Case const& c : {Case{{1, 2}, {5, 6}, {5, 6}}, // wholly below
+                          Case{{7, 8}, {5, 6}, {5, 6}}, // wholly above
+                          Case{{1, 5.5}, {5, 6}, {5, 5.5}}, Case{{5.5, 9}, {5, 6}, {5.5, 6}},
+                          Case{{5.2, 5.4}, {5, 6}, {5.2, 5.4}}, Case{{0, 9}, {5, 6}, {5, 6}}}) {
+        Interval interval = c.start;
+        interval.ForceInside(c.other);
+        ExpectInterval(interval, c.expected.lower, c.expected.upper);
+    }
+}
+
+TEST(Interval, ExpandMovesEachEndByTheFactor)
+{
+    Interval interval(100, 200);
+    Interval const copy = interval.Expand(0.25);
+    ExpectInterval(interval, 75, 225);
+    ExpectInterval(copy, 75, 225);
+    EXPECT_EQ(interval.Center(), 150);
+}
+
+TEST(Interval, ValidUnlessAnEndIsInfinite)
+{
+    constexpr double greatest = std::numeric_limits<double>::max();
+    EXPECT_FALSE(Interval().IsValid());
+    EXPECT_FALSE(Interval(0, infinity).IsValid());
+    EXPECT_FALSE(Interval(-infinity, 0).IsValid());
+    EXPECT_TRUE(Interval(-greatest, greatest).IsValid());
+    EXPECT_TRUE(Interval(nan_value, nan_value).IsValid());
+}
+
+TEST(Interval, OrdersByLowerThenUpperEnd)
+{
+    std::vector<Interval> intervals{{2, 3}, {1, 9}, {2, 1}, {1, 4}};
+    std::sort(intervals.begin(), intervals.end());
+    EXPECT_EQ(intervals, (std::vector<Interval>{{1, 4}, {1, 9}, {2, 1}, {2, 3}}));
+    EXPECT_FALSE(Interval(1, 2) < Interval(1, 2));
+    EXPECT_FALSE(Interval(1, nan_value) == Interval(1, nan_value));
+}
+
+TEST(Interval, MovesByANumber)
+{
+    Interval interval(1, 4);
+    interval += 2.5;
+    ExpectInterval(interval, 3.5, 6.5);
+    interval -= 0.5;
+    ExpectInterval(interval, 3, 6);
+    ExpectInterval(interval + 1, 4, 7);
+    ExpectInterval(interval - 3, 0, 3);
+}

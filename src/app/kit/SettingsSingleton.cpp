@@ -76,6 +76,9 @@ void SettingsSingleton::LoadSettings()
     mfc_mnems_ = settings.value(MFC_MNEMS, GetDefaultMfcMnems()).toStringList();
     display_mfc_windows_ = settings.value(DISPLAY_MFC_WINDOWS_AUTOMATICALLY, false).toBool();
     background_color_ = settings.value(BACKGROUND_COLOR, QColor(Qt::black)).value<QColor>();
+    if (!background_color_.isValid()) {
+        background_color_ = Qt::black;
+    }
     splitter_handle_color_ = settings.value(SPLITTER_HANDLE_COLOR, QStringLiteral("000000")).toString();
     override_splitter_handle_color_ = settings.value(OVERRIDE_DEFAULT_SPLITTER_HANDLE_COLOR, false).toBool();
     well_details_json_path_ = settings.value(WELL_DETAILS_JSON_IMPORT_DATA_PATH, here).toString();

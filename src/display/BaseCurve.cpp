@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/BaseCurve.h"
+
+#include "display/ScaleItemParameters.h"
+
+BaseCurve::BaseCurve() : scale_item_(std::make_shared<ScaleItemParameters>()) {}
+
+BaseCurve::~BaseCurve() = default;
+
+QPen const& BaseCurve::GetCurvePen() const
+{
+    return scale_item_->pen;
+}
+
+void BaseCurve::SetCurvePen(QPen const& pen)
+{
+    scale_item_->pen = pen;
+}
+
+Interval const& BaseCurve::GetScale() const
+{
+    return scale_item_->scale;
+}
+
+void BaseCurve::SetScales(Interval const& scale)
+{
+    scale_item_->scale = scale;
+}
+
+void BaseCurve::SetScaleItemParameters(std::shared_ptr<ScaleItemParameters> const& scale_item)
+{
+    if (scale_item) {
+        scale_item_ = scale_item;
+    }
+}
+
+double BaseCurve::ConvertValueToPercentage(float value) const
+{
+    Interval const& scale = GetScale();
+    return (static_cast<double>(value) - scale.lower) / (scale.upper - scale.lower);
+}

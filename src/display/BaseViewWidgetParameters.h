@@ -5,8 +5,8 @@
 
 #include "app/kit/Interval.h"
 
-/// The vertical model of a column: which depths are shown over how many pixels, and the mouse modes. The ColumnWindow
-/// owns it and is its only writer; every view reads it while painting. Depths in metres.
+/// The vertical model of a column: which depths are shown over how many pixels, and the mouse modes. The
+/// ColumnWindow owns it and is its only writer; every view reads it while painting. Depths in metres.
 class BaseViewWidgetParameters
 {
 public:
@@ -36,8 +36,8 @@ public:
     [[nodiscard]] float GetStretchAnchorDepth() const { return stretch_anchor_depth_; }
     void SetStretchAnchorDepth(float depth) { stretch_anchor_depth_ = depth; }
 
-    /// Forces the view inside the total, then widens it about its centre so that one inch of screen never shows
-    /// less than 5 cm; the widened view may stick out of the total.
+    /// Forces the view inside the total, then widens it about its centre so that one inch of screen never
+    /// shows less than 5 cm; the widened view may stick out of the total.
     void CheckZoomLevel();
 
 private:

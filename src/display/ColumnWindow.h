@@ -22,6 +22,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 class AutomaticDataView;
 class BaseCombinedViewWidget;
@@ -31,15 +32,17 @@ class BaseViewWidget;
 class CombinedDataViewWidget;
 class QHBoxLayout;
 class QWheelEvent;
+class QWidget;
 class ScrollAreaWrapper;
 class TimeLog;
 class TimeLogDataChannel;
 class UserDataView;
 class ViewFactory;
 
-/// The display of one survey: its views side by side, the depth range they all show, the shared cursor, the mouse
-/// modes and the undo list. Zoom and scroll are decided here and never by a single view. All depths in metres.
-/// Main thread only. A view counts as visible when it is not hidden itself, whether or not the column is on screen.
+/// The display of one survey: its views side by side, the depth range they all show, the shared cursor, the
+/// mouse modes and the undo list. Zoom and scroll are decided here and never by a single view. All depths in
+/// metres. Main thread only. A view counts as visible when it is not hidden itself, whether or not the column
+/// is on screen.
 class ColumnWindow final : public ColumnSlots, public UndoTarget
 {
     Q_OBJECT
@@ -47,9 +50,11 @@ public:
     /// Asks for the stretch anchor, in the settings' unit; an empty answer is a cancelled question.
     using AskAnchor = std::function<std::optional<double>(double present)>;
 
-    /// @param context brings the pointers to the well data; the column fills in its own parameters and pass handle.
+    /// @param context brings the pointers to the well data; the column fills in its own parameters and pass
+    /// handle.
     /// @param factory makes the zone, deviation and sketch views; null for none. Outlives the column.
-    ColumnWindow(int survey_id, ColumnContext const& context, ViewFactory const* factory, QObject* parent = nullptr);
+    ColumnWindow(int survey_id, ColumnContext const& context, ViewFactory const* factory,
+                 QObject* parent = nullptr);
     ~ColumnWindow() override;
 
     [[nodiscard]] int GetSurveyId() const { return survey_id_; }
@@ -102,7 +107,6 @@ public:
     void DeleteCustomDataView(QString const& view);
     /// @return the name given, made unique; empty for an unknown view
     QString RenameUserDataView(QString const& view, QString const& new_name);
-    QString RenameImageDataView(QString const& view, QString const& new_name);
     void UpdateScalesForAllUserDataViews();
     /// @}
 
@@ -113,12 +117,17 @@ public:
     void OnTimeLogAdded(std::weak_ptr<TimeLog const> const& log);
     void UpdateAutomaticDataViews(DepthLogPass const* pass);
     void UpdateAutomaticDataViews(std::weak_ptr<TimeLog const> const& log);
-    /// For a view of that name that takes channels: an automatic one before any other.
-    void AddDepthDataChannelToDataView(QString const& view, std::weak_ptr<BaseDepthDataChannel const> const& channel);
-    void AddDepthDataChannelToDataView(BaseDataView* view, std::weak_ptr<BaseDepthDataChannel const> const& channel);
-    void AddTimeLogDataChannelToDataView(QString const& view, std::weak_ptr<TimeLogDataChannel const> const& channel);
-    void AddTimeLogDataChannelToDataView(BaseDataView* view, std::weak_ptr<TimeLogDataChannel const> const& channel);
-    /// Views let go of all that depends on the channel, pass or survey; an automatic view left empty is deleted.
+    /// For the user view of that name, or else the automatic one.
+    void AddDepthDataChannelToDataView(QString const& view,
+                                       std::weak_ptr<BaseDepthDataChannel const> const& channel);
+    void AddDepthDataChannelToDataView(BaseDataView* view,
+                                       std::weak_ptr<BaseDepthDataChannel const> const& channel);
+    void AddTimeLogDataChannelToDataView(QString const& view,
+                                         std::weak_ptr<TimeLogDataChannel const> const& channel);
+    void AddTimeLogDataChannelToDataView(BaseDataView* view,
+                                         std::weak_ptr<TimeLogDataChannel const> const& channel);
+    /// Views let go of all that depends on the channel, pass or survey; an automatic view left empty is
+    /// deleted.
     void DeleteDependencies(DataChannelIdentifier const& identifier);
     /// "_SL" when the name ends in it, otherwise empty.
     [[nodiscard]] static QString CheckForTimeLogPostFix(QString const& name);
@@ -129,7 +138,10 @@ public:
     [[nodiscard]] Interval GetViewDepth() const { return params_.GetViewDepthMetric(); }
     /// What undo and redo use: redraws but leaves the scroll bar.
     void SetVisibleDepthInterval(Interval const& view) override;
-    [[nodiscard]] Interval GetTotalDisplayedInterval() const { return params_.GetTotalDisplayedDepthInterval(); }
+    [[nodiscard]] Interval GetTotalDisplayedInterval() const
+    {
+        return params_.GetTotalDisplayedDepthInterval();
+    }
     void SetTotalDisplayedInterval(Interval const& total);
     [[nodiscard]] bool GetOverrideAutomaticDisplayedInterval() const { return override_automatic_interval_; }
     void SetOverrideAutomaticDisplayedInterval(bool override_interval);
@@ -173,7 +185,8 @@ public:
     void SetDataViewScale(QString const& view, DataChannelIdentifier const& identifier,
                           Interval const& scale) override;
     void EmitApplyShift(DataChannelIdentifier const& identifier, float delta) override;
-    void EmitApplyStretch(DataChannelIdentifier const& identifier, float start, float drag, float anchor) override;
+    void EmitApplyStretch(DataChannelIdentifier const& identifier, float start, float drag,
+                          float anchor) override;
     void RefreshDataViews() override;
     /// @}
 
@@ -191,7 +204,8 @@ public slots:
     void ZoomHorizontalIntervalToggled(bool checked);
     void InterpretationZoneDefinitionToggled(bool checked);
     void ShiftToggled(bool checked);
-    /// Turning on asks for the anchor first. @return whether the question was accepted; false when turning off
+    /// Turning on asks for the anchor first. @return whether the question was accepted; false when turning
+    /// off
     bool StretchToggled(bool checked);
 
     /// A view's data changed.
@@ -229,7 +243,8 @@ signals:
     void UpdateStatusBar_Signal(float depth, QString const& text);
     void SelectionEnd_Signal(Zone const& zone);
     void UpdateUndoRedoStatus_Signal(bool undo_available, bool redo_available);
-    void DataChannelDroppedOnUserDataView_Signal(QString const& view, DataChannelIdentifier const& identifier);
+    void DataChannelDroppedOnUserDataView_Signal(QString const& view,
+                                                 DataChannelIdentifier const& identifier);
     void ApplyShift_Signal(DataChannelIdentifier const& identifier, float delta);
     void ApplyStretch_Signal(DataChannelIdentifier const& identifier, float start, float drag, float anchor);
     void ShowUserDataViewProperties_Signal(QString const& view);
@@ -244,11 +259,16 @@ private:
 
     void ConnectScrollArea();
     void ZoomByButton(float factor);
-    void AdoptVisibleDepthInterval();
-    [[nodiscard]] std::optional<DataChannelIdentifier> ResolveIdentifier(DataChannelIdentifier const* identifier) const;
+    [[nodiscard]] std::optional<DataChannelIdentifier>
+    ResolveIdentifier(DataChannelIdentifier const* identifier) const;
     [[nodiscard]] double ConvertYValueToDepth_metric(int y) const;
     [[nodiscard]] AutomaticDataView* FindAutomaticDataView(QString const& name) const;
+    [[nodiscard]] BaseDataView* FindDataViewForChannels(QString const& name);
+    void ConnectComponentClicks(BaseCombinedViewWidget* pair);
     void PrepareForFirstData();
+    void OnChannelAdded(BaseDataView const* view);
+    void RemovePair(BaseCombinedViewWidget* pair);
+    [[nodiscard]] QWidget* DialogParent() const;
 
     std::unique_ptr<ScrollAreaWrapper> scroll_area_;
     ColumnContext context_;

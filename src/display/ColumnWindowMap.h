@@ -33,7 +33,10 @@ public:
     void DeleteDependencies(DataChannelIdentifier const& identifier);
 
     /// Ascending by key, for walks over all columns.
-    [[nodiscard]] std::map<int, std::shared_ptr<ColumnWindow>> const& GetColumnWindows() const { return columns_; }
+    [[nodiscard]] std::map<int, std::shared_ptr<ColumnWindow>> const& GetColumnWindows() const
+    {
+        return columns_;
+    }
 
 private:
     std::map<int, std::shared_ptr<ColumnWindow>> columns_;

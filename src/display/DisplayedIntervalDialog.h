@@ -10,6 +10,7 @@
 class QCheckBox;
 class QGroupBox;
 class QLineEdit;
+class QPushButton;
 
 /// Asks for the depth range that a column's scroll bar spans.
 class DisplayedIntervalDialog final : public QDialog
@@ -27,8 +28,12 @@ public slots:
     void OnCheckBoxChanged(int state);
 
 private:
+    /// An interval that is used must be two numbers, the top above the bottom.
+    void UpdateOkButton();
+
     QCheckBox* override_ = nullptr;
     QGroupBox* interval_group_ = nullptr;
     QLineEdit* top_ = nullptr;
     QLineEdit* bottom_ = nullptr;
+    QPushButton* ok_ = nullptr;
 };

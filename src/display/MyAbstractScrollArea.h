@@ -5,8 +5,8 @@
 
 #include <QAbstractScrollArea>
 
-/// The scroll area of a column. It keeps the vertical bar and hands its events on; what scrolling means is decided by
-/// the column.
+/// The scroll area of a column. It keeps the vertical bar and hands its events on; what scrolling means is
+/// decided by the column.
 class MyAbstractScrollArea final : public QAbstractScrollArea
 {
     Q_OBJECT

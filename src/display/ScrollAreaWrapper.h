@@ -27,8 +27,8 @@ class QWidget;
 class ViewFactory;
 struct ColumnContext;
 
-/// The widgets of a column: a scroll area whose viewport holds one horizontal splitter, whose children are the view
-/// pairs. Owns the scroll area, also after it was put into a layout of a parent. Main thread only.
+/// The widgets of a column: a scroll area whose viewport holds one horizontal splitter, whose children are
+/// the view pairs. Owns the scroll area, also after it was put into a layout of a parent. Main thread only.
 class ScrollAreaWrapper final : public QObject
 {
     Q_OBJECT
@@ -36,16 +36,16 @@ public:
     explicit ScrollAreaWrapper(QObject* parent = nullptr);
     ~ScrollAreaWrapper() override;
 
-    /// The creators give a hidden pair, wired to `column` and to this object's own signals, with its header named.
-    /// The depth axis goes to splitter index 0, all others are appended.
+    /// The creators give a hidden pair, wired to `column` and to this object's own signals, with its header
+    /// named. The depth axis goes to splitter index 0, all others are appended.
     DepthAxisCombinedViewWidget* CreateDepthView(QString const& name, ColumnContext const& context,
                                                  ColumnSlots* column);
     /// An automatic view, or a user view.
-    CombinedDataViewWidget* CreateDataView(QString const& name, ColumnContext const& context, ColumnSlots* column,
-                                           bool automatic);
+    CombinedDataViewWidget* CreateDataView(QString const& name, ColumnContext const& context,
+                                           ColumnSlots* column, bool automatic);
     /// These three ask `factory` and return null without one, or when it does not make that view.
-    BaseCombinedViewWidget* CreateZoneView(QString const& name, ColumnContext const& context, ColumnSlots* column,
-                                           ViewFactory const* factory);
+    BaseCombinedViewWidget* CreateZoneView(QString const& name, ColumnContext const& context,
+                                           ColumnSlots* column, ViewFactory const* factory);
     BaseCombinedViewWidget* CreateDeviationView(QString const& name, ColumnContext const& context,
                                                 ColumnSlots* column, ViewFactory const* factory);
     BaseCombinedViewWidget* CreateWellSketchView(QString const& name, ColumnContext const& context,
@@ -92,6 +92,8 @@ public:
     void show();
     void hide();
     [[nodiscard]] MyAbstractScrollArea* GetScrollArea() const { return scroll_area_; }
+    /// The window that questions to the user stand over.
+    [[nodiscard]] QWidget* GetDialogParent() const;
 
 signals:
     void OnShowEvent_Signal();
@@ -104,11 +106,13 @@ signals:
     void ApplyShift_Signal(DataChannelIdentifier const* identifier, float delta);
     void ApplyStretch_Signal(DataChannelIdentifier const* identifier, float from, float to, float anchor);
     void ShowUserDataViewProperties_Signal(QString const& view);
-    void DataChannelDroppedOnUserDataView_Signal(QString const& view, DataChannelIdentifier const& identifier);
+    void DataChannelDroppedOnUserDataView_Signal(QString const& view,
+                                                 DataChannelIdentifier const& identifier);
 
 private:
-    BaseCombinedViewWidget* AddFactoryView(BaseCombinedViewWidget* pair, QString const& name, ColumnSlots* column);
-    void FinishPair(BaseCombinedViewWidget* pair, QString const& name, ColumnSlots* column);
+    BaseCombinedViewWidget* AppendFactoryPair(BaseCombinedViewWidget* pair, QString const& name,
+                                              ColumnSlots* column);
+    void AppendPair(BaseCombinedViewWidget* pair, QString const& name);
 
     QPointer<MyAbstractScrollArea> scroll_area_;
     QPointer<QSplitter> splitter_;

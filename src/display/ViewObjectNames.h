@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QLatin1String>
+
+/// Object names of the views that are made on floors above the display; the column finds them by name alone.
+namespace view_object_names {
+inline constexpr QLatin1String DEVIATION{"VIEW_WIDGET_DEVIATION_DATAVIEW"};
+inline constexpr QLatin1String IMAGE{"VIEW_WIDGET_IMAGE_DATA_VIEW"};
+inline constexpr QLatin1String MF_CALIPER{"VIEW_WIDGET_MF_CALIPER_DATA_VIEW"};
+inline constexpr QLatin1String WELL_SKETCH{"VIEW_WIDGET_WELL_SKETCH_VIEW"};
+inline constexpr QLatin1String ZONE{"VIEW_WIDGET_ZONE_VIEW"};
+} // namespace view_object_names

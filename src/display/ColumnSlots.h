@@ -12,8 +12,8 @@
 class QPointF;
 class QWidget;
 
-/// What the views of a column ask of it. ColumnWindow implements it; the views connect to it without knowing the
-/// column itself.
+/// What the views of a column ask of it. ColumnWindow implements it; the views connect to it without knowing
+/// the column itself.
 class ColumnSlots : public QObject
 {
     Q_OBJECT
@@ -29,9 +29,12 @@ public slots:
     virtual void OnVisibleHeightChanged(int height) = 0;
     virtual void OnVisibleWidgetsChanged() = 0;
     virtual void OnMoveViewWidget(QWidget* moved, QPointF const& global) = 0;
-    virtual void PushUndo(QString const& view, DataChannelIdentifier const& identifier, Interval const& before,
-                          Interval const& after) = 0;
+    virtual void PushUndo(QString const& view, DataChannelIdentifier const& identifier,
+                          Interval const& before, Interval const& after) = 0;
     virtual void OnShiftCompleted() = 0;
     virtual void OnDepthStretchStarted() = 0;
     virtual void OnDepthStretchCompleted() = 0;
+    /// The undo entries pushed between these two count as one step.
+    virtual void OnUndoBatchStarted() {}
+    virtual void OnUndoBatchCompleted() {}
 };

@@ -39,6 +39,11 @@ public:
     /// Shows the context menu at the cursor; `position` is that of the request.
     void ShowContextMenu(QPoint const& position);
 
+signals:
+    /// Around several undo entries of one gesture.
+    void UndoBatchStarted_Signal();
+    void UndoBatchCompleted_Signal();
+
 protected:
     /// Fills the context menu of view and header.
     virtual void FillContextMenu(QMenu& menu);

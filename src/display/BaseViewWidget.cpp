@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/BaseViewWidget.h"
+
+#include "app/kit/SettingsSingleton.h"
+#include "display/BaseViewWidgetParameters.h"
+#include "display/DepthGeometry.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace {
+QColor const selection_color(0, 0, 255, 100);
+} // namespace
+
+BaseViewWidget::BaseViewWidget(QWidget* parent, QString const& name,
+                               BaseViewWidgetParameters const* parameters,
+                               DirectionalSurveyData const& directional_survey)
+    : QWidget(parent), parameters_(parameters), directional_survey_(directional_survey)
+{
+    SetNameAndTitle(name);
+    setAttribute(Qt::WA_MouseTracking);
+    setCursor(Qt::BlankCursor);
+}
+
+BaseViewWidget::~BaseViewWidget() = default;
+
+void BaseViewWidget::SetNameAndTitle(QString const& name)
+{
+    name_ = name;
+    setWindowTitle(name);
+}
+
+void BaseViewWidget::ForceRedraw()
+{
+    needs_redraw_ = true;
+    update();
+}
+
+void BaseViewWidget::SetCursorRow(int y)
+{
+    if (cursor_y_ != y) {
+        cursor_y_ = y;
+        update();
+    }
+}
+
+void BaseViewWidget::SetSelectionStartRow(int y)
+{
+    if (selection_start_y_ != y) {
+        selection_start_y_ = y;
+        update();
+    }
+}
+
+int BaseViewWidget::ConvertDepthToYValue(float depth, int height, Interval const& interval)
+{
+    return Quorrel::ConvertDepthToYValue(depth, height, interval);
+}
+
+float BaseViewWidget::ConvertYValueToDepth_metric(int y) const
+{
+    return static_cast<float>(
+        Quorrel::ConvertYValueToDepth_metric(y, height(), parameters_->GetViewDepthMetric()));
+}
+
+int BaseViewWidget::ConvertDepthToIndex(float depth, std::size_t size, float first, float last)
+{
+    return Quorrel::ConvertDepthToIndex(depth, size, first, last);
+}
+
+float BaseViewWidget::GetTopDepthVisible_metric() const
+{
+    return static_cast<float>(parameters_->GetViewDepthMetric().lower);
+}
+
+float BaseViewWidget::GetBottomDepthVisible_metric() const
+{
+    return static_cast<float>(parameters_->GetViewDepthMetric().upper);
+}
+
+void BaseViewWidget::mousePressEvent(QMouseEvent* event)
+{
+    // Only the left button starts a tool: the menu of the right one would swallow the release.
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    if (parameters_->GetVerticalZoomChecked() || parameters_->GetInterpretationZonesDefinitionChecked()) {
+        selection_start_y_ = static_cast<int>(event->position().y());
+        emit VerticalSelectionBegin_Signal(selection_start_y_);
+        return;
+    }
+    press_x_ = Quorrel::RoundToInt(event->position().x());
+    press_y_ = Quorrel::RoundToInt(event->position().y());
+}
+
+void BaseViewWidget::mouseMoveEvent(QMouseEvent* event)
+{
+    int const x = static_cast<int>(event->position().x());
+    int const y = static_cast<int>(event->position().y());
+    cursor_x_ = x;
+    update();
+    StatusMessage const message = GetStatusMessage(x, y);
+    emit MouseMove_Signal(y, message.depth, message.text);
+}
+
+void BaseViewWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    if ((parameters_->GetVerticalZoomChecked() || parameters_->GetInterpretationZonesDefinitionChecked()) &&
+        selection_start_y_ >= 0) {
+        auto const [low, high] = std::minmax(selection_start_y_, static_cast<int>(event->position().y()));
+        int const y1 = low;
+        int const y2 = high;
+        emit VerticalSelectionEnd_Signal(y1, y2);
+    }
+    selection_start_x_ = -1;
+    selection_start_y_ = -1;
+    press_x_ = -1;
+    press_y_ = -1;
+    update();
+}
+
+void BaseViewWidget::enterEvent(QEnterEvent* event)
+{
+    QWidget::enterEvent(event);
+    emit MouseEnter_Signal();
+}
+
+void BaseViewWidget::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    cursor_x_ = -1;
+    update();
+    emit MouseLeave_Signal();
+}
+
+void BaseViewWidget::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    needs_redraw_ = true;
+    emit VisibilityChanged_Signal();
+}
+
+void BaseViewWidget::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    emit VisibilityChanged_Signal();
+}
+
+void BaseViewWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    // The first view that sees the new height updates the shared value, so the others stay silent.
+    if (height() != parameters_->GetVisibleHeightPixels()) {
+        emit VisibleHeightChanged_Signal(height());
+    }
+    update();
+}
+
+void BaseViewWidget::DrawCachedPixmap(QPainter& painter, std::function<void(QPainter&)> const& render)
+{
+    if (width() < 1 || height() < 1) {
+        return;
+    }
+    QSize const pixels = size() * devicePixelRatioF();
+    if (!cached_pixmap_ || cached_pixmap_->size() != pixels) {
+        cached_pixmap_ = std::make_shared<QPixmap>(pixels);
+        cached_pixmap_->setDevicePixelRatio(devicePixelRatioF());
+        needs_redraw_ = true;
+    }
+    if (needs_redraw_) {
+        needs_redraw_ = false;
+        ++render_count_;
+        cached_pixmap_->fill(SettingsSingleton::Instance().GetBackgroundColor());
+        QPainter pixmap_painter(cached_pixmap_.get());
+        // Renderers take their size from the window; on a dense screen it is still that of the widget.
+        pixmap_painter.setWindow(rect());
+        pixmap_painter.setViewport(rect());
+        render(pixmap_painter);
+    }
+    painter.drawPixmap(0, 0, *cached_pixmap_);
+}
+
+void BaseViewWidget::RenderMouseCursor(QPainter& painter) const
+{
+    QPen const saved_pen = painter.pen();
+    painter.setCompositionMode(QPainter::RasterOp_SourceAndNotDestination);
+    painter.setPen(Qt::white);
+    if (cursor_y_ >= 0) {
+        painter.drawLine(0, cursor_y_, width() - 1, cursor_y_);
+    }
+    if (cursor_x_ >= 0) {
+        painter.drawLine(cursor_x_, 0, cursor_x_, height() - 1);
+    }
+    bool const has_columns = selection_start_x_ >= 0 && cursor_x_ >= 0 && selection_start_x_ != cursor_x_;
+    bool const has_rows = selection_start_y_ >= 0 && cursor_y_ >= 0 && selection_start_y_ != cursor_y_;
+    if (has_columns) {
+        painter.drawLine(selection_start_x_, 0, selection_start_x_, height() - 1);
+    }
+    if (has_rows) {
+        painter.drawLine(0, selection_start_y_, width() - 1, selection_start_y_);
+    }
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setPen(saved_pen);
+
+    bool const horizontal = parameters_->GetHorizontalZoomChecked() && selection_start_x_ >= 0;
+    bool const vertical = parameters_->GetVerticalZoomChecked();
+    auto const [left, right] = std::minmax(selection_start_x_, cursor_x_);
+    auto const [top, bottom] = std::minmax(selection_start_y_, cursor_y_);
+    // In the neighbours of a view where a rectangle is drawn, the rows show as a band.
+    if (horizontal && vertical) {
+        if (has_columns && has_rows) {
+            painter.fillRect(left, top, right - left, bottom - top, selection_color);
+        }
+    } else if (horizontal) {
+        if (has_columns) {
+            painter.fillRect(left, 0, right - left, height(), selection_color);
+        }
+    } else if (vertical && has_rows) {
+        painter.fillRect(0, top, width(), bottom - top, selection_color);
+    }
+}

@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/ScaleLabel.h"
+
+#include <QMouseEvent>
+
+void ScaleLabel::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void ScaleLabel::mouseMoveEvent(QMouseEvent* event)
+{
+    emit MoveViewWidget_Signal(event->globalPosition());
+}
+
+void ScaleLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    emit MoveButtonReleased_Signal(static_cast<int>(event->globalPosition().y()));
+}

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "model/UniqueNames.h"
+
+#include "app/kit/SettingsSingleton.h"
+
+namespace Quorrel {
+QString GenerateUniqueName(QString const& name, std::function<bool(QString const&)> const& is_taken)
+{
+    QString candidate = name;
+    for (int n = 1; is_taken(candidate); ++n) {
+        candidate = name + QStringLiteral("_#") + SettingsSingleton::Instance().GetLocale().toString(n);
+    }
+    return candidate;
+}
+} // namespace Quorrel

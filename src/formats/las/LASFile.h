@@ -17,15 +17,14 @@
 #include <string>
 #include <vector>
 
-/// Name under which the ~Curve section of a LAS 3.0 file is kept.
-inline constexpr char const* LEGACY_CURVE_SECTION_NAME = "Curve";
-
-/// A LAS 2.0 or 3.0 file in memory, always in the shape of LAS 2.0: the hand-over object between the sources of
-/// logs and the log model, which moves columns and sections out of it. Complete after construction: a file that
-/// cannot be loaded whole is an exception. Built on a worker thread, used on the main thread; it shares nothing.
+/// A LAS 2.0 or 3.0 file in memory, always in the shape of LAS 2.0: the hand-over object between the sources
+/// of logs and the log model, which moves columns and sections out of it. Complete after construction: a file
+/// that cannot be loaded whole is an exception. Built on a worker thread, used on the main thread; it shares
+/// nothing.
 ///
-/// After loading, each column has as many values as the index, and the curve section one row for each column. A
-/// file without rows (no data section, or STEP 0 and no data) loads with empty columns. Copies share the samples.
+/// After loading, each column has as many values as the index, and the curve section one row for each column.
+/// A file without rows (no data section, or STEP 0 and no data) loads with empty columns. Copies share the
+/// samples.
 class LASFile
 {
 public:

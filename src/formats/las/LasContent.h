@@ -14,8 +14,12 @@
 #include <string>
 #include <vector>
 
+/// Name under which the ~Curve section of a LAS 3.0 file is kept.
+inline constexpr char const* LEGACY_CURVE_SECTION_NAME = "Curve";
+
 /// Everything a LAS file says, as its readers fill it in. LASFile is what the rest of the program sees of it.
-struct LasContent {
+struct LasContent
+{
     LASHeaderSection version;
     LASHeaderSection well_info;
     LASHeaderSection parameter_info;
@@ -49,5 +53,9 @@ struct LasContent {
     [[nodiscard]] bool IsMetric() const;
     /// What stands between the columns: a blank also for a file that does not say.
     [[nodiscard]] char GetDelimiter() const;
+    /// Data columns, the index not counted.
     [[nodiscard]] std::size_t CalculateNumberOfColumns() const { return curve_info.size(); }
+    /// Rows by STRT, STOP and a STEP other than 0, in single precision. As large as the header wants it.
+    /// @throws std::invalid_argument when it is negative
+    [[nodiscard]] long long CalculateNumberOfRows() const;
 };

@@ -24,7 +24,8 @@ public:
     LasLoadingThread(QObject* parent, QString const& path, DisableToken token);
 
 signals:
-    /// On success the file and an empty message; otherwise no file and the text to show, with <BR> line breaks.
+    /// On success the file and an empty message; otherwise no file and the text to show, with <BR> line
+    /// breaks.
     void resultReady(std::shared_ptr<LASFile> file, QString const& path, bool success, QString const& message,
                      DisableToken token);
 

@@ -24,7 +24,7 @@ public:
     void GiveBack() { is_given_back_ = true; }
 
     /// Passes over all lines up to one that begins with "~" and returns that; empty at the end of the stream.
-    [[nodiscard]] std::string FindNextSection();
+    std::string FindNextSection();
     /// Reads the next line of the section, comments and empty lines skipped. False at its end, where the line
     /// that begins the next section is given back.
     /// @throws std::runtime_error for a header of a length that no LAS file has

@@ -78,19 +78,6 @@ private:
     static constexpr std::size_t MOST_EXACT_DECIMALS = 19;
     static constexpr std::size_t MOST_DECIMALS = 20;
 
-    static constexpr std::array<Kind, 256> MakeKinds()
-    {
-        // Bytes above 127 are negative characters, and so below "A".
-        std::array<Kind, 256> kinds{};
-        for (int code = 'A'; code < 128; ++code) {
-            kinds[static_cast<std::size_t>(code)] = Kind::Word;
-        }
-        for (char const character : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', '-', '.'}) {
-            kinds[static_cast<unsigned char>(character)] = Kind::Number;
-        }
-        return kinds;
-    }
-
     /// The digits at the cursor as an integer, modulo 2^64; moves behind them.
     static std::uint64_t StringToLong(char const*& cursor)
     {
@@ -140,7 +127,17 @@ private:
     /// Makes at least one unread byte available; false at the end of the file.
     bool HasCharacter();
 
-    static constexpr std::array<Kind, 256> kinds_ = MakeKinds();
+    static constexpr std::array<Kind, 256> kinds_ = [] {
+        // Bytes above 127 are negative characters, and so below "A".
+        std::array<Kind, 256> kinds{};
+        for (std::size_t code = 'A'; code < 128; ++code) {
+            kinds[code] = Kind::Word;
+        }
+        for (char const character : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', '-', '.'}) {
+            kinds[static_cast<unsigned char>(character)] = Kind::Number;
+        }
+        return kinds;
+    }();
     static constexpr std::array<double, MOST_EXACT_DECIMALS + 1> tenths_ = {
         1.0,   1e-1,  1e-2,  1e-3,  1e-4,  1e-5,  1e-6,  1e-7,  1e-8,  1e-9,
         1e-10, 1e-11, 1e-12, 1e-13, 1e-14, 1e-15, 1e-16, 1e-17, 1e-18, 1e-19};

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include <QtLogging>
+#include <QtGlobal>
 
 #include <memory>
 

@@ -16,15 +16,18 @@ class Zone;
 class ZoneTrack;
 struct DepthMarker;
 
-/// The pass chosen in the pass selector; owned by the column, read by its views (tracker, whole-pass corrections).
-struct CurrentDepthLogPass {
+/// The pass chosen in the pass selector; owned by the column, read by its views (tracker, whole-pass
+/// corrections).
+struct CurrentDepthLogPass
+{
     std::weak_ptr<DepthLogPass const> pass;
 };
 
 /// What the views of a column read besides channels. All pointers are to values that outlive the column: the
-/// parameters and the pass handle in the column itself, the rest in the data container (values there are assigned as a
-/// whole, so the addresses stay).
-struct ColumnContext {
+/// parameters and the pass handle in the column itself, the rest in the data container (values there are
+/// assigned as a whole, so the addresses stay).
+struct ColumnContext
+{
     BaseViewWidgetParameters const* parameters = nullptr;
     CurrentDepthLogPass const* current_pass = nullptr;
     DirectionalSurveyData const* directional_survey = nullptr;

@@ -8,10 +8,10 @@
 
 namespace Quorrel {
 namespace {
-/// Truncated and held to 0 .. the greatest int; 0 for what is no number.
+/// Truncated and held to 0 .. the greatest int; 0 for what is not finite.
 int TruncateToRange(double value)
 {
-    if (std::isnan(value) || value <= 0) {
+    if (!std::isfinite(value) || value <= 0) {
         return 0;
     }
     constexpr double greatest = std::numeric_limits<int>::max();

@@ -91,7 +91,7 @@ public:
     void AddToLayout(QHBoxLayout* layout);
     void show();
     void hide();
-    [[nodiscard]] MyAbstractScrollArea* GetScrollArea() const { return scroll_area_; }
+    [[nodiscard]] MyAbstractScrollArea* GetScrollArea() const;
     /// The window that questions to the user stand over.
     [[nodiscard]] QWidget* GetDialogParent() const;
 

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/ColumnWindow.h"
+
+#include "display/AutomaticDataView.h"
+#include "display/BaseCombinedViewWidget.h"
+#include "display/BaseScaleView.h"
+#include "display/BaseViewWidget.h"
+#include "display/DepthAxis.h"
+#include "display/ScrollAreaWrapper.h"
+#include "display/UserDataView.h"
+#include "display/ViewObjectNames.h"
+#include "display/ViewOrder.h"
+
+#include <algorithm>
+
+// Which views are shown, in which order and how large.
+
+void ColumnWindow::UpdateVisibleViewWidgets(QList<QString> const& names)
+{
+    QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
+    for (BaseCombinedViewWidget* pair : pairs) {
+        if (!names.contains(pair->GetBaseViewWidgetName())) {
+            pair->hide();
+        }
+    }
+    QList<int> const old_sizes = scroll_area_->GetSplitterSizes();
+    std::vector<Quorrel::ViewSlot> slots_in_order;
+    for (int i = 0; i < pairs.size(); ++i) {
+        Quorrel::ViewSlot slot{i, pairs[i]->GetBaseViewWidgetName(), old_sizes[i], std::nullopt};
+        if (pairs[i]->GetBaseViewWidget()->sizePolicy().horizontalPolicy() == QSizePolicy::Preferred) {
+            slot.preferred_width = pairs[i]->sizeHint().width();
+        }
+        slots_in_order.push_back(slot);
+    }
+    slots_in_order = Quorrel::ArrangeViews(std::move(slots_in_order), names, scroll_area_->GetWidth());
+
+    QList<int> sizes;
+    for (Quorrel::ViewSlot const& slot : slots_in_order) {
+        BaseCombinedViewWidget* pair = pairs[slot.index];
+        scroll_area_->InsertSplitterWidget(static_cast<int>(sizes.size()), pair);
+        pair->setVisible(names.contains(slot.name));
+        sizes.append(slot.size);
+    }
+    scroll_area_->SetSplitterSizes(sizes);
+}
+
+void ColumnWindow::SortViewWidgets(QList<QString> const& names)
+{
+    for (auto name = names.crbegin(); name != names.crend(); ++name) {
+        if (BaseCombinedViewWidget* pair = FindCombinedViewWidget(*name)) {
+            scroll_area_->InsertSplitterWidget(0, pair);
+        }
+    }
+}
+
+void ColumnWindow::SetSplitterSizes(QList<int> const& sizes)
+{
+    QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
+    for (int i = 0; i < std::min(pairs.size(), sizes.size()); ++i) {
+        pairs[i]->setVisible(sizes[i] != 0);
+    }
+    scroll_area_->SetSplitterSizes(sizes);
+}
+
+void ColumnWindow::DisplayDefaultViews()
+{
+    for (BaseCombinedViewWidget* pair : FindAllCombinedViewWidgets()) {
+        QString const kind = pair->GetBaseViewWidgetObjectName();
+        pair->setVisible(kind == DepthAxis::OBJECT_NAME_ || kind == view_object_names::DEVIATION ||
+                         kind == view_object_names::WELL_SKETCH || kind == view_object_names::ZONE);
+    }
+}
+
+void ColumnWindow::DisplayFirstCVWs()
+{
+    QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
+    QList<QString> names;
+    for (BaseCombinedViewWidget const* pair : pairs) {
+        QString const kind = pair->GetBaseViewWidgetObjectName();
+        bool const shows_data = kind == AutomaticDataView::OBJECT_NAME_ ||
+                                kind == UserDataView::OBJECT_NAME_ || kind == view_object_names::MF_CALIPER;
+        if (shows_data && !pair->isHidden()) {
+            return;
+        }
+        names.append(pair->GetBaseViewWidgetName());
+    }
+    for (int const index : Quorrel::ChooseFirstViews(names)) {
+        pairs[index]->show();
+    }
+    // Views of a column that is not on screen report nothing when they are shown.
+    OnVisibleWidgetsChanged();
+}
+
+void ColumnWindow::OnVisibleWidgetsChanged()
+{
+    OnScaleHeightChanged();
+    OnVisibleWidgetDataChanged();
+}
+
+void ColumnWindow::OnScaleHeightChanged()
+{
+    QList<BaseCombinedViewWidget*> const pairs = FindAllVisibleCombinedViewWidgets();
+    int height = 0;
+    for (BaseCombinedViewWidget const* pair : pairs) {
+        height = std::max(height, pair->GetBaseScaleView()->sizeHint().height());
+    }
+    for (BaseCombinedViewWidget* pair : pairs) {
+        pair->GetBaseScaleView()->setFixedHeight(height);
+    }
+}
+
+void ColumnWindow::OnMoveViewWidget(QWidget* moved, QPointF const& global)
+{
+    int const moved_index = scroll_area_->GetSplitterIndex(moved);
+    auto* moved_pair = qobject_cast<BaseCombinedViewWidget*>(moved);
+    if (moved_index < 0 || !moved_pair) {
+        return;
+    }
+    std::vector<Quorrel::ViewPlace> places;
+    for (BaseCombinedViewWidget const* pair : FindAllCombinedViewWidgets()) {
+        places.push_back(
+            {scroll_area_->SplitterMapToGlobal(pair->pos()).x(), pair->width(), !pair->isHidden()});
+    }
+    if (std::optional<int> const target = Quorrel::FindMoveTarget(places, moved_index, global.x())) {
+        scroll_area_->InsertSplitterWidget(*target, moved_pair);
+    }
+}
+
+void ColumnWindow::RemovePair(BaseCombinedViewWidget* pair)
+{
+    pair->hide();
+    pair->setParent(nullptr);
+    pair->deleteLater();
+}

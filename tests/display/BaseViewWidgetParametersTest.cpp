@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/BaseViewWidgetParameters.h"
+
+#include "app/kit/Globals.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+class BaseViewWidgetParametersTest : public testing::Test
+{
+protected:
+    void SetUp() override { Quorrel::DPI_Y = 100; } // at 100 dpi 5 cm an inch are half a millimetre a pixel
+    void TearDown() override { Quorrel::DPI_Y = dpi_before_; }
+
+    void Check(Interval const& view, double top, double bottom, int height = 1000)
+    {
+        BaseViewWidgetParameters parameters;
+        parameters.SetTotalDisplayedDepthInterval({0, 5000});
+        parameters.SetVisibleHeightPixels(height);
+        parameters.SetViewDepthMetric(view);
+        parameters.CheckZoomLevel();
+        EXPECT_NEAR(parameters.GetViewDepthMetric().lower, top, 1e-4) << view.lower << " to " << view.upper;
+        EXPECT_NEAR(parameters.GetViewDepthMetric().upper, bottom, 1e-4)
+            << view.lower << " to " << view.upper;
+    }
+
+private:
+    double dpi_before_ = Quorrel::DPI_Y;
+};
+
+TEST_F(BaseViewWidgetParametersTest, AViewInsideANewTotalStaysAndAnyOtherBecomesTheTotal)
+{
+    struct Case
+    {
+        Interval view;
+        Interval expected;
+    };
+    double const infinity = std::numeric_limits<double>::infinity();
+    Case const cases[] = {
+        {{1200, 1300}, {1200, 1300}},         {{1000, 2000}, {1000, 2000}}, {{900, 1300}, {1000, 2000}},
+        {{1200, 2001}, {1000, 2000}},         {{10, 20}, {1000, 2000}},     {Interval(), {1000, 2000}},
+        {{infinity, infinity}, {1000, 2000}},
+    };
+    for (Case const& c : cases) {
+        BaseViewWidgetParameters parameters;
+        parameters.SetViewDepthMetric(c.view);
+        parameters.SetTotalDisplayedDepthInterval({1000, 2000});
+        EXPECT_EQ(parameters.GetViewDepthMetric(), c.expected) << c.view.lower << " to " << c.view.upper;
+        EXPECT_EQ(parameters.GetTotalDisplayedDepthInterval(), Interval(1000, 2000));
+    }
+}
+
+TEST_F(BaseViewWidgetParametersTest, TheViewIsForcedInsideTheTotalEachEndByItself)
+{
+    Check({1000, 2000}, 1000, 2000);
+    Check({-500, 2000}, 0, 2000);
+    Check({4000, 9000}, 4000, 5000);
+    Check({-500, 9000}, 0, 5000);
+    Check({-20, -10}, 0, 5000);
+}
+
+TEST_F(BaseViewWidgetParametersTest, ThousandRowsNeverShowLessThanHalfAMetre)
+{
+    Check({1000, 1000.5}, 1000, 1000.5);
+    Check({1000, 1000.1}, 999.8, 1000.3);
+    Check({1000, 1000}, 999.75, 1000.25);
+    // The widened view may stick out of the total at either end.
+    Check({0, 0.1}, -0.2, 0.3);
+    Check({4999.9, 5000}, 4999.7, 5000.2);
+    // Half the rows, half the length.
+    Check({1000, 1000.1}, 999.925, 1000.175, 500);
+}
+
+TEST_F(BaseViewWidgetParametersTest, WithoutHeightOrScreenThereIsNoLimit)
+{
+    Check({1000, 1000.1}, 1000, 1000.1, 0);
+    Quorrel::DPI_Y = 0;
+    Check({1000, 1000.1}, 1000, 1000.1);
+}

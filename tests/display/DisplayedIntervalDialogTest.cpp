@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/DisplayedIntervalDialog.h"
+
+#include "app/kit/SettingsSingleton.h"
+
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+class DisplayedIntervalDialogTest : public testing::Test
+{
+protected:
+    void TearDown() override
+    {
+        SettingsSingleton::Instance().SetMetricDepth(false);
+        SettingsSingleton::Instance().SetSeparatorSelection(US);
+    }
+
+    static void Type(DisplayedIntervalDialog const& dialog, QString const& top, QString const& bottom)
+    {
+        dialog.findChild<QLineEdit*>("le_top")->setText(top);
+        dialog.findChild<QLineEdit*>("le_bottom")->setText(bottom);
+    }
+    static QString Top(DisplayedIntervalDialog const& dialog)
+    {
+        return dialog.findChild<QLineEdit*>("le_top")->text();
+    }
+    static QString Bottom(DisplayedIntervalDialog const& dialog)
+    {
+        return dialog.findChild<QLineEdit*>("le_bottom")->text();
+    }
+    static bool OkEnabled(DisplayedIntervalDialog const& dialog)
+    {
+        return dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled();
+    }
+};
+
+TEST_F(DisplayedIntervalDialogTest, ShowsAndReadsMetres)
+{
+    SettingsSingleton::Instance().SetMetricDepth(true);
+    DisplayedIntervalDialog dialog(true, {1000.5, 2500});
+    EXPECT_EQ(dialog.windowTitle(), "Display Interval");
+    EXPECT_EQ(Top(dialog), "1,000.50");
+    EXPECT_EQ(Bottom(dialog), "2,500.00");
+    EXPECT_TRUE(dialog.GetOverrideAutomaticInterval());
+    EXPECT_EQ(dialog.GetTotalDisplayedInterval(), Interval(1000.5, 2500));
+    Type(dialog, "12.25", "400");
+    EXPECT_EQ(dialog.GetTotalDisplayedInterval(), Interval(12.25, 400));
+}
+
+TEST_F(DisplayedIntervalDialogTest, ShowsAndReadsFeetInTheChosenNumberFormat)
+{
+    SettingsSingleton::Instance().SetSeparatorSelection(International);
+    DisplayedIntervalDialog dialog(true, {304.8, 3048});
+    EXPECT_EQ(Top(dialog), "1.000,00");
+    EXPECT_EQ(Bottom(dialog), "10.000,00");
+    Type(dialog, "100,5", "2.000");
+    Interval const typed = dialog.GetTotalDisplayedInterval();
+    EXPECT_NEAR(typed.lower, 30.6324, 1e-5);
+    EXPECT_NEAR(typed.upper, 609.6, 1e-4);
+}
+
+TEST_F(DisplayedIntervalDialogTest, TheEditsAreOffWithoutOverrideAndOkWantsAnAscendingInterval)
+{
+    SettingsSingleton::Instance().SetMetricDepth(true);
+    DisplayedIntervalDialog dialog(false, {0, 5000});
+    auto* group = dialog.findChild<QGroupBox*>();
+    auto* override_box = dialog.findChild<QCheckBox*>("cb_override");
+    EXPECT_EQ(group->title(), "Interval");
+    EXPECT_EQ(override_box->text(), "Override Auto Interval");
+    EXPECT_FALSE(group->isEnabled());
+    EXPECT_FALSE(dialog.GetOverrideAutomaticInterval());
+
+    override_box->click();
+    EXPECT_TRUE(group->isEnabled());
+    EXPECT_TRUE(dialog.GetOverrideAutomaticInterval());
+    EXPECT_TRUE(OkEnabled(dialog));
+    std::pair<char const*, char const*> const bad[] = {
+        {"abc", "100"}, {"10", ""}, {"200", "100"}, {"100", "100"}};
+    for (auto const& [top, bottom] : bad) {
+        Type(dialog, top, bottom);
+        EXPECT_FALSE(OkEnabled(dialog)) << top << " to " << bottom;
+    }
+    override_box->click();
+    EXPECT_FALSE(group->isEnabled());
+    EXPECT_TRUE(OkEnabled(dialog));
+}

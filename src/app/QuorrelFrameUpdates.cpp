@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "app/BuildDate.h"
+#include "app/QuorrelFrame.h"
+#include "app/VersionCheck.h"
+#include "display/ViewFactory.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QMessageBox>
+#include <QUrl>
+
+// Help menu of the main frame, the update check, and the project flows that are not there yet.
+
+void QuorrelFrame::OnAbout()
+{
+    QApplication::aboutQt();
+}
+
+void QuorrelFrame::OnWebpage()
+{
+    QDesktopServices::openUrl(QUrl("https://" + BuildDate::GetSiteName()));
+}
+
+void QuorrelFrame::OnCheckForNewVersion_MenuAction()
+{
+    MakeVersionCheck()->OnCheckForNewVersion_MenuAction();
+}
+
+VersionCheck* QuorrelFrame::MakeVersionCheck()
+{
+    auto* check = new VersionCheck(this);
+    connect(check, &VersionCheck::Message_Signal, this, [this](VersionCheck::Message const& message) {
+        auto const buttons = message.offers_download
+                                 ? QMessageBox::StandardButtons(QMessageBox::Yes | QMessageBox::No)
+                                 : QMessageBox::Ok;
+        if (QMessageBox::information(this, message.title, message.text, buttons) == QMessageBox::Yes) {
+            OnWebpage();
+        }
+    });
+    connect(check, &VersionCheck::Finished_Signal, check, &QObject::deleteLater);
+    return check;
+}
+
+void QuorrelFrame::LoadProject(QString const& path)
+{
+    OnNewProject();
+    QMessageBox::warning(this, tr("Warning"), tr("This build cannot open project files yet: ") + path);
+}

@@ -152,6 +152,7 @@ protected:
     /// The curve at a record's index, time curves after depth curves; null beyond the last.
     [[nodiscard]] BaseCurve* GetCurveAt(int index);
     [[nodiscard]] BaseCurve const* GetCurveAt(int index) const;
+    [[nodiscard]] DataChannelIdentifier GetIdentifierAt(int index) const;
     /// The depth of the cursor row; nothing without a cursor.
     [[nodiscard]] std::optional<double> GetCursorDepth() const;
 

@@ -48,8 +48,11 @@ signals:
     void InputChange(bool valid);
 
 private:
+    void BuildLayout();
+    /// Nothing while an edit holds no number.
     [[nodiscard]] std::optional<Interval> ParseEdits() const;
-    [[nodiscard]] ScaleItemParameters* CurrentEntry() const;
+    /// Null beyond the last.
+    [[nodiscard]] ScaleItemParameters* EntryAt(int index) const;
     void OnIntervalTextChanged(QLineEdit* edit, QString const& text);
     void FitCurrentEntry(std::vector<Interval> const& extents);
 

@@ -5,8 +5,6 @@
 
 #include "model/UniqueNames.h"
 
-#include <algorithm>
-
 void DataStorageMap::AddDataChannelToDataStorage(int key, std::shared_ptr<StorageDataChannel> const& channel)
 {
     if (channel) {
@@ -18,7 +16,7 @@ int DataStorageMap::MoveStorageDataChannelToStorage(std::shared_ptr<StorageDataC
                                                     KeyType survey_key)
 {
     int const key = Quorrel::NextKey(channels_);
-    if (ContainsName(channel->GetName())) {
+    if (GetNames().contains(channel->GetName())) {
         channel->SetName(channel->GetName() + QStringLiteral("_") + QString::number(key));
     }
     channel->SetDataChannelIdentifier({survey_key, QString::fromLatin1(DATA_STORAGE_HASH), key});
@@ -42,8 +40,7 @@ QList<int> DataStorageMap::GetStorageKeys() const
 
 QString DataStorageMap::GenerateUniqueStorageChannelName(QString const& name) const
 {
-    return Quorrel::GenerateUniqueName(name,
-                                       [this](QString const& candidate) { return ContainsName(candidate); });
+    return Quorrel::GenerateUniqueName(name, GetNames());
 }
 
 QString DataStorageMap::RenameStorageDataChannel(DataChannelIdentifier const& identifier, QString const& name)
@@ -53,8 +50,11 @@ QString DataStorageMap::RenameStorageDataChannel(DataChannelIdentifier const& id
     return channel.GetName();
 }
 
-bool DataStorageMap::ContainsName(QString const& name) const
+QSet<QString> DataStorageMap::GetNames() const
 {
-    return std::any_of(channels_.begin(), channels_.end(),
-                       [&name](auto const& entry) { return entry.second->GetName() == name; });
+    QSet<QString> names;
+    for (auto const& [key, channel] : channels_) {
+        names.insert(channel->GetName());
+    }
+    return names;
 }

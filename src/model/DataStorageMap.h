@@ -6,6 +6,7 @@
 #include "model/StorageDataChannel.h"
 
 #include <QList>
+#include <QSet>
 
 #include <map>
 #include <memory>
@@ -37,7 +38,7 @@ public:
     QString RenameStorageDataChannel(DataChannelIdentifier const& identifier, QString const& name);
 
 private:
-    [[nodiscard]] bool ContainsName(QString const& name) const;
+    [[nodiscard]] QSet<QString> GetNames() const;
 
     std::map<int, std::shared_ptr<StorageDataChannel>> channels_;
 };

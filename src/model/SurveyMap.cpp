@@ -5,8 +5,6 @@
 
 #include "model/UniqueNames.h"
 
-#include <algorithm>
-
 std::weak_ptr<Survey> SurveyMap::at(int const& key)
 {
     auto const survey = surveys_.find(key);
@@ -58,10 +56,11 @@ QString SurveyMap::RenameSurvey(int key, QString const& name)
 
 QString SurveyMap::GenerateUniqueSurveyName(QString const& name) const
 {
-    return Quorrel::GenerateUniqueName(name, [this](QString const& candidate) {
-        return std::any_of(surveys_.begin(), surveys_.end(),
-                           [&candidate](auto const& entry) { return entry.second->GetName() == candidate; });
-    });
+    QSet<QString> names;
+    for (auto const& [key, survey] : surveys_) {
+        names.insert(survey->GetName());
+    }
+    return Quorrel::GenerateUniqueName(name, names);
 }
 
 QList<QString> SurveyMap::GetAllSurveyNames() const

@@ -6,10 +6,10 @@
 #include "app/kit/SettingsSingleton.h"
 
 namespace Quorrel {
-QString GenerateUniqueName(QString const& name, std::function<bool(QString const&)> const& is_taken)
+QString GenerateUniqueName(QString const& name, QSet<QString> const& taken)
 {
     QString candidate = name;
-    for (int n = 1; is_taken(candidate); ++n) {
+    for (int n = 1; taken.contains(candidate); ++n) {
         candidate = name + QStringLiteral("_#") + SettingsSingleton::Instance().GetLocale().toString(n);
     }
     return candidate;

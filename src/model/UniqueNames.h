@@ -3,17 +3,16 @@
 
 #pragma once
 
+#include <QSet>
 #include <QString>
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
 #include <limits>
 
 namespace Quorrel {
-/// The first of `name`, "name_#1", "name_#2", ... (numbers in the settings' format) that is not taken.
-[[nodiscard]] QString GenerateUniqueName(QString const& name,
-                                         std::function<bool(QString const&)> const& is_taken);
+/// The first of `name`, "name_#1", "name_#2", ... (numbers in the settings' format) that is not in `taken`.
+[[nodiscard]] QString GenerateUniqueName(QString const& name, QSet<QString> const& taken);
 
 /// The greatest key of a map with integer keys plus 1, or 0 for the empty map. A stored map may use up the
 /// whole range; then the lowest free key from 0.

@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "model/LASHeaderSection.h"
+
+#include "model/UndefinedMnem.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+TEST(HeaderRow, CutsHeaderLines)
+{
+    struct Case
+    {
+        char const* line;
+        HeaderRow row;
+    };
+    Case const cases[] = {
+        {"STRT.M        1670.0 : START DEPTH", {"STRT", "M", "1670.0", "START DEPTH"}},
+        // The first dot ends the mnemonic, the last colon the data: times and later dots stay in the data.
+        {"TIME.  13:45:10 : Time of day", {"TIME", "", "13:45:10", "Time of day"}},
+        {"VERS.   2.0:   CWLS LAS 2.0", {"VERS", "", "2.0", "CWLS LAS 2.0"}},
+        {"\tGR .GAPI\t45 310 01 00\t: Gamma\t", {"GR", "GAPI", "45 310 01 00", "Gamma"}},
+        {"", {"", "", "", ""}},
+        {"   ", {"", "", "", ""}},
+        // Without a dot the whole line is mnemonic and unit, the data all before the last colon.
+        {"COMMENT line : text", {"COMMENT line : text", "COMMENT line : text", "COMMENT line", "text"}},
+        // Without a colon the data run to the end of the line, and the whole line is the description.
+        {"COMP.  ANY OIL COMPANY", {"COMP", "", "ANY OIL COMPANY", "COMP.  ANY OIL COMPANY"}},
+        // No blank behind the unit.
+        {"DEPT.M:Depth", {"DEPT", "M:Depth", "DEPT.M", "Depth"}},
+        // A blank only behind the colon.
+        {"A.M:deep down", {"A", "M:deep", "down", "deep down"}},
+        {".", {"", "", ".", "."}},
+        {":", {":", ":", "", ""}},
+        {"TEMP.\xB0"
+         "C  20 : Bohrl\xF6"
+         "cher",
+         {"TEMP", QString::fromUtf8("°C"), "20", QString::fromUtf8("Bohrlöcher")}},
+    };
+    for (Case const& item : cases) {
+        HeaderRow const row{std::string(item.line)};
+        EXPECT_EQ(row.mnemonic, item.row.mnemonic) << item.line;
+        EXPECT_EQ(row.unit, item.row.unit) << item.line;
+        EXPECT_EQ(row.data, item.row.data) << item.line;
+        EXPECT_EQ(row.description, item.row.description) << item.line;
+    }
+}
+
+TEST(LASHeaderSection, FindsDataByExactMnemonic)
+{
+    LASHeaderSection section;
+    section.push_back(HeaderRow("null", "", "lower case", ""));
+    section.push_back(HeaderRow("NULL", "", "-999.25", ""));
+    section.push_back(HeaderRow("NULL", "", "second", ""));
+    EXPECT_EQ(section.GetData("NULL"), "-999.25");
+    section.delete_element(1);
+    EXPECT_EQ(section.GetData("NULL"), "second");
+    EXPECT_EQ(section.size(), 2U);
+    EXPECT_THROW(section.delete_element(2), std::out_of_range);
+    try {
+        (void)section.GetData("STEP");
+        FAIL() << "found STEP";
+    } catch (UndefinedMnem const& error) {
+        EXPECT_STREQ(error.what(), "Undefined Mnem: STEP");
+        EXPECT_EQ(error.GetMnemonic(), "STEP");
+    }
+}

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/kit/SettingsSingleton.h"
+#include "formats/las/LASFile.h"
+#include "model/StorageDataChannel.h"
+
+#include <QString>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+using Samples = std::vector<float>;
+
+/// Depth unit and number format of the settings for one test; puts the former back.
+class SettingsGuard
+{
+public:
+    explicit SettingsGuard(bool metric, Separator_Selection separators = US)
+        : metric_(SettingsSingleton::Instance().IsMetricDepth()),
+          separators_(SettingsSingleton::Instance().GetSeparatorSelection())
+    {
+        SettingsSingleton::Instance().SetMetricDepth(metric);
+        SettingsSingleton::Instance().SetSeparatorSelection(separators);
+    }
+    SettingsGuard(SettingsGuard const&) = delete;
+    SettingsGuard& operator=(SettingsGuard const&) = delete;
+    ~SettingsGuard()
+    {
+        SettingsSingleton::Instance().SetMetricDepth(metric_);
+        SettingsSingleton::Instance().SetSeparatorSelection(separators_);
+    }
+
+private:
+    bool metric_;
+    Separator_Selection separators_;
+};
+
+struct Curve
+{
+    QString mnemonic;
+    Samples samples;
+};
+
+/// A loaded file as the reader would hand it over, with the null value -999.25.
+inline LASFile MakeFile(HeaderRow const& index_row, std::vector<double> index,
+                        std::vector<Curve> const& curves)
+{
+    LASFile file;
+    file.GetLASVersion().push_back(HeaderRow("VERS", "", "2.0", ""));
+    file.GetLASWellInfo().push_back(HeaderRow("NULL", "", "-999.25", ""));
+    file.GetIndexRow() = index_row;
+    file.GetDepthVector() = std::move(index);
+    for (Curve const& curve : curves) {
+        file.GetLASCurveInfo().push_back(HeaderRow(curve.mnemonic, "u", "", ""));
+        file.GetDataMatrix().push_back(std::make_shared<Samples>(curve.samples));
+    }
+    return file;
+}
+
+/// A metric depth log.
+inline LASFile MakeDepthFile(std::vector<double> depths, std::vector<Curve> const& curves)
+{
+    return MakeFile(HeaderRow("DEPT", "M", "", ""), std::move(depths), curves);
+}
+
+inline LASFile MakeTimeFile(std::vector<double> times, std::vector<Curve> const& curves)
+{
+    return MakeFile(HeaderRow("Time", "S", "", ""), std::move(times), curves);
+}
+
+/// Depths first, first + step, ... in metres.
+inline std::vector<double> Depths(double first, double step, std::size_t count)
+{
+    std::vector<double> depths(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        depths[i] = first + static_cast<double>(i) * step;
+    }
+    return depths;
+}
+
+inline std::shared_ptr<StorageDataChannel> MakeChannel(std::vector<double> const& depths,
+                                                       Samples const& samples,
+                                                       QString const& name = "channel",
+                                                       DataChannelIdentifier const& identifier = {})
+{
+    auto const shared_samples = std::make_shared<Samples>(samples);
+    return std::make_shared<StorageDataChannel>(shared_samples, DepthChannel(depths, true), name,
+                                                HeaderRow("GR", "gAPI", "", ""), identifier);
+}
+
+inline Samples Values(BaseDataChannel const& channel)
+{
+    return Samples(channel.begin(), channel.end());
+}
+
+/// The message of the exception that the call throws; empty when it throws none of this type.
+template <typename Exception, typename Call>
+std::string MessageOf(Call const& call)
+{
+    try {
+        call();
+    } catch (Exception const& exception) {
+        return exception.what();
+    }
+    return {};
+}

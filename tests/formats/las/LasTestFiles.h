@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "formats/las/LASFile.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <typeinfo>
+
+/// LAS files made in memory for tests.
+namespace las_test {
+inline LASFile Load(std::string const& content)
+{
+    std::istringstream stream(content);
+    return LASFile(stream);
+}
+
+/// A LAS 2.0 file of index DEPT in metres and the channels GR and RHOB; `data` follows the line "~A".
+inline std::string FileV2(std::string const& start, std::string const& stop, std::string const& step,
+                          std::string const& data)
+{
+    return "~Version\n"
+           " VERS. 2.0 : CWLS LOG ASCII STANDARD\n"
+           " WRAP. NO  : ONE LINE PER DEPTH STEP\n"
+           "~Well\n"
+           " STRT.M " +
+           start +
+           " : START\n"
+           " STOP.M " +
+           stop +
+           " : STOP\n"
+           " STEP.M " +
+           step +
+           " : STEP\n"
+           " NULL.  -999.25 : NULL VALUE\n"
+           "~Curves\n"
+           " DEPT.M   : 1 DEPTH\n"
+           " GR.GAPI  : 2 GAMMA RAY\n"
+           " RHOB.K/M3 45 350 01 00 : 3 BULK DENSITY\n"
+           "~A DEPT GR RHOB\n" +
+           data;
+}
+
+/// A LAS 3.0 file of three lines in the well section; `sections` follows it.
+inline std::string FileV3(std::string const& start, std::string const& stop, std::string const& step,
+                          std::string const& sections)
+{
+    return "~Version\n"
+           " VERS. 3.0   : CWLS LOG ASCII STANDARD\n"
+           " WRAP. NO    : ONE LINE PER DEPTH STEP\n"
+           " DLM . SPACE : DELIMITER\n"
+           "~Well\n"
+           " STRT.M " +
+           start +
+           " : First index {F}\n"
+           " STOP.M " +
+           stop +
+           " : Last index {F}\n"
+           " STEP.M " +
+           step + " : Step {F}\n" + sections;
+}
+
+/// The text with which the file is refused; empty when it loads.
+inline std::string Refusal(std::string const& content)
+{
+    try {
+        Load(content);
+    } catch (std::exception const& exception) {
+        return exception.what();
+    }
+    return {};
+}
+} // namespace las_test

@@ -88,7 +88,7 @@ void ResampleDataMatrix(std::vector<DepthType>& index, LASDataFileMatrix& matrix
     // With at most one column of each kind doubled at a time, a file close to the memory's end still loads.
     if (!matrix.empty()) {
         std::vector<float> const old_depths(index.begin(), index.end());
-        index = {};
+        std::vector<DepthType>().swap(index);
         std::vector<float> const new_depths = GenerateUniformDepthVector(start, stop, count);
         for (auto& column : matrix) {
             column =

@@ -10,10 +10,12 @@
 #include "support/TestFiles.h"
 
 #include <QFile>
+#include <QLocale>
 
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <locale>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -378,15 +380,28 @@ TEST(LASFile, FindsArrayMnemonics)
 
 TEST(LASFile, NumbersAndTextsDoNotDependOnTheLocale)
 {
+    struct CommaForPoint : std::numpunct<char>
+    {
+        char do_decimal_point() const override { return ','; }
+        char do_thousands_sep() const override { return '.'; }
+        std::string do_grouping() const override { return "\3"; }
+    };
     std::string const before = std::setlocale(LC_ALL, nullptr);
-    if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr &&
-        std::setlocale(LC_ALL, "nb_NO.UTF-8") == nullptr) {
-        GTEST_SKIP() << "no locale with a decimal comma is installed";
-    }
-    std::string const refusal = Refusal(FileV2("1.0", "2.0", "0.5", "1.0 1 1\n1.6 1 1\n"));
+    QLocale const qt_before;
+    std::locale const standard_before = std::locale::global(std::locale(std::locale(), new CommaForPoint));
+    QLocale::setDefault(QLocale::German);
+    // Where a locale with a decimal comma is installed, the C library uses it too.
+    (void)(std::setlocale(LC_ALL, "de_DE.UTF-8") || std::setlocale(LC_ALL, "nb_NO.UTF-8"));
+
+    std::string const refusal = Refusal(FileV2("1.0", "2.0", "0.5", "1000.0 1 1\n1000.6 1 1\n"));
+    std::string const count = Refusal(FileV2("1", "2000", "1", "1 1 1"));
     LASFile const file = Load(GOOD_FILE);
+
+    QLocale::setDefault(qt_before);
+    std::locale::global(standard_before);
     std::setlocale(LC_ALL, before.c_str());
-    EXPECT_EQ(refusal, IndexRefusal("1.000000", "1.600000", "1.500000"));
+    EXPECT_EQ(refusal, IndexRefusal("1000.000000", "1000.600000", "1000.500000"));
+    EXPECT_EQ(count, "Expected number of data-rows: 2000   Actual rows read: 1");
     EXPECT_EQ(file.GetDepthStep(), 0.5F);
     EXPECT_EQ(*file.GetDataMatrix()[1], (Floats{2.1F, 2.2F, 2.3F}));
 }

@@ -166,7 +166,8 @@ void ScrollAreaWrapper::SetSplitterHandleColor(QString const& color)
 QList<BaseCombinedViewWidget*> ScrollAreaWrapper::FindAllCombinedViewWidgets() const
 {
     QList<BaseCombinedViewWidget*> pairs;
-    for (int i = 0; i < splitter_->count(); ++i) {
+    // The widget that the scroll area was laid out in may have taken it along.
+    for (int i = 0; splitter_ && i < splitter_->count(); ++i) {
         if (BaseCombinedViewWidget* pair = GetSplitterWidget(i)) {
             pairs.append(pair);
         }

@@ -69,7 +69,8 @@ TEST_F(BaseViewWidgetParametersTest, ThousandRowsNeverShowLessThanHalfAMetre)
     Check({1000, 1000}, 999.75, 1000.25);
     // The widened view may stick out of the total at either end.
     Check({0, 0.1}, -0.2, 0.3);
-    Check({4999.9, 5000}, 4999.7, 5000.2);
+    // Single precision steps by 1/2048 here: the centre 4999.95 becomes 10239898 / 2048.
+    Check({4999.9, 5000}, 4999.7001953125, 5000.2001953125);
     // Half the rows, half the length.
     Check({1000, 1000.1}, 999.925, 1000.175, 500);
 }

@@ -22,6 +22,13 @@
 #include <QSplitter>
 #include <QWheelEvent>
 
+#include <algorithm>
+
+namespace {
+/// Pixels by which a view can still be seen and grabbed.
+constexpr int MINIMUM_VIEW_WIDTH = 20;
+} // namespace
+
 ScrollAreaWrapper::ScrollAreaWrapper(QObject* parent)
     : QObject(parent),
       scroll_area_(new MyAbstractScrollArea),
@@ -107,6 +114,7 @@ BaseCombinedViewWidget* ScrollAreaWrapper::AppendFactoryPair(BaseCombinedViewWid
 
 void ScrollAreaWrapper::AppendPair(BaseCombinedViewWidget* pair, QString const& name)
 {
+    pair->setMinimumWidth(MINIMUM_VIEW_WIDTH);
     AddSplitterWidget(pair);
     pair->GetBaseScaleView()->SetName(name);
     using Pair = BaseCombinedViewWidget;
@@ -140,7 +148,18 @@ QList<int> ScrollAreaWrapper::GetSplitterSizes() const
 
 void ScrollAreaWrapper::SetSplitterSizes(QList<int> const& sizes)
 {
-    splitter_->setSizes(sizes);
+    // A hidden view keeps the room it asks for when it is shown again, or a share like that of the others.
+    QList<int> rooms = sizes;
+    int const shown =
+        static_cast<int>(std::count_if(sizes.begin(), sizes.end(), [](int size) { return size > 0; }));
+    for (int i = 0; i < std::min(splitter_->count(), static_cast<int>(rooms.size())); ++i) {
+        QWidget const* pair = splitter_->widget(i);
+        if (rooms[i] == 0 && pair->isHidden()) {
+            bool const has_own_width = pair->sizePolicy().horizontalPolicy() == QSizePolicy::Preferred;
+            rooms[i] = has_own_width ? pair->sizeHint().width() : GetWidth() / (shown + 1);
+        }
+    }
+    splitter_->setSizes(rooms);
 }
 
 void ScrollAreaWrapper::InsertSplitterWidget(int index, BaseCombinedViewWidget* widget)

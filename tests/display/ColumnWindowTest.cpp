@@ -49,13 +49,14 @@ TEST_F(ColumnWindowTest, OneAutomaticViewStandsForAMnemonicOverAllPasses)
 TEST_F(ColumnWindowTest, TheFirstPassSetsTheIntervalAndShowsViewsByPriority)
 {
     column->SetOverrideAutomaticDisplayedInterval(true);
-    auto const first = MakePass("a", 1000, 2000, {"AAA", "TEMP", "GR", "CCL"});
+    auto const first = MakePass("a", 1000, 2000, {"AAA", "BBB", "TEMP", "GR", "CCL"});
     column->AddImportedDepthLog(first);
     EXPECT_FALSE(column->GetOverrideAutomaticDisplayedInterval());
     EXPECT_EQ(column->GetTotalDisplayedInterval(), Interval(999, 2001)); // one metre more at each end
     EXPECT_EQ(column->GetViewDepth(), Interval(999, 2001));
+    // Three by priority, and the two at indices 3 and 4, of which the sketch is shown anyway.
     EXPECT_EQ(VisibleNames(),
-              (QList<QString>{"Depth", "Zones", "Deviation", "Well Sketch", "TEMP", "GR", "CCL"}));
+              (QList<QString>{"Depth", "Zones", "Deviation", "Well Sketch", "AAA", "TEMP", "GR", "CCL"}));
 
     // A later pass leaves what is shown, and widens the interval only through views that are shown.
     auto const second = MakePass("b", 500, 1500, {"SPIN"});

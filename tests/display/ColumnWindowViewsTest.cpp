@@ -226,7 +226,7 @@ TEST_F(ColumnWindowViewsTest, AHiddenColumnRendersNothing)
     column->ForceRedraw();
     Settle();
     EXPECT_EQ(RenderCounts(), before);
-    EXPECT_EQ(VisibleNames().size(), 7) << "the views keep their own state";
+    EXPECT_EQ(VisibleNames().size(), 8) << "the views keep their own state";
     EXPECT_EQ(column->GetTotalDisplayedInterval(), Interval(999, 2001));
     column->show();
     Settle();

@@ -109,7 +109,8 @@ bool IsNearlyEqual(double a, double b)
 {
     constexpr double tolerance = 1e-12;
     double const least = std::min(std::fabs(a), std::fabs(b));
-    return std::fabs(a - b) <= tolerance * (least == 0 ? 1 : least);
+    double const difference = std::fabs(a - b);
+    return a == b || (std::isfinite(difference) && difference <= tolerance * (least == 0 ? 1 : least));
 }
 } // namespace
 

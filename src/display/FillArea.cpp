@@ -18,6 +18,9 @@
 namespace {
 using Points = FillArea::Points;
 
+/// Stands for a border value too far away for a pixel number.
+constexpr double FARTHEST_COLUMN = 1e30;
+
 /// Steps of the walk longer than this, in rows, get the point where the curves cross.
 constexpr double LONGEST_STEP_WITHOUT_CROSSING = 1.0;
 
@@ -151,8 +154,10 @@ void FillArea::RenderFillAreas(QPainter& painter, Interval const& interval)
             if (points_a_.empty()) {
                 continue;
             }
-            double const x = static_cast<double>(Quorrel::ConvertCurveValueToX(
-                definition->value, view_->GetCurveScale(definition->curve_a), width));
+            double const x =
+                std::clamp(static_cast<double>(Quorrel::ConvertCurveValueToX(
+                               definition->value, view_->GetCurveScale(definition->curve_a), width)),
+                           -FARTHEST_COLUMN, FARTHEST_COLUMN);
             points_b_ = {{x, points_a_.front().y()}, {x, points_a_.back().y()}};
             RemoveNonFinite(points_b_);
         } else {

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/ClippedDrawing.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPen>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <limits>
+#include <vector>
+
+namespace {
+constexpr int SIZE = 100;
+constexpr double INF = std::numeric_limits<double>::infinity();
+constexpr double NOT_A_NUMBER = std::numeric_limits<double>::quiet_NaN();
+using Points = std::vector<QPointF>;
+
+template <typename Draw>
+QImage Paint(Draw const& draw, QPen const& pen = QPen(Qt::red, 1))
+{
+    QImage image(SIZE, SIZE, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    painter.setPen(pen);
+    painter.setBrush(Qt::blue);
+    draw(painter);
+    return image;
+}
+
+QImage Polyline(Points const& points, QPen const& pen = QPen(Qt::red, 1))
+{
+    return Paint(
+        [&](QPainter& painter) { Quorrel::DrawPolylineClipped(painter, points.data(), points.size()); }, pen);
+}
+
+QImage PlainPolyline(Points const& points, QPen const& pen = QPen(Qt::red, 1))
+{
+    return Paint(
+        [&](QPainter& painter) { painter.drawPolyline(points.data(), static_cast<int>(points.size())); },
+        pen);
+}
+
+QImage Polygon(Points const& points)
+{
+    return Paint(
+        [&](QPainter& painter) { Quorrel::DrawPolygonClipped(painter, points.data(), points.size()); });
+}
+} // namespace
+
+TEST(ClippedDrawingTest, PointsNearTheWindowAreDrawnAsTheyAre)
+{
+    Points const points{{3, 4}, {-50, 20}, {150, 60}, {40, 99}};
+    EXPECT_EQ(Polyline(points), PlainPolyline(points));
+    EXPECT_NE(Polyline(points), Polyline({}));
+}
+
+TEST(ClippedDrawingTest, LinesThatRunFarOutsideKeepTheirPixels)
+{
+    struct Case
+    {
+        Points far;
+        Points near; ///< the same lines, cut off by hand
+    };
+    Case const cases[] = {
+        {{{50, 0}, {50 - 1e12, 1e12}}, {{50, 0}, {-50, 100}}},
+        {{{-1e15 + 20, -1e15 + 20}, {1e15, 1e15}}, {{-80, -80}, {180, 180}}},
+        {{{10, 10}, {1e30, 10}, {1e30, 30}, {10, 30}}, {{10, 10}, {300, 10}, {300, 30}, {10, 30}}},
+        {{{30, -1e30}, {30, 1e30}}, {{30, -100}, {30, 200}}},
+        {{{1e30, 50}, {-1e30, 50}}, {{200, 50}, {-100, 50}}},
+    };
+    for (int width : {1, 5}) {
+        QPen const pen(Qt::red, width);
+        for (Case const& c : cases) {
+            EXPECT_EQ(Polyline(c.far, pen), PlainPolyline(c.near, pen)) << c.far.back().x();
+        }
+    }
+}
+
+TEST(ClippedDrawingTest, PointsThatAreNoNumbersAreLeftOut)
+{
+    Points const holes{{0, 0}, {NOT_A_NUMBER, 5}, {INF, 7}, {-INF, 7}, {40, 40}, {50, INF}};
+    EXPECT_EQ(Polyline(holes), PlainPolyline({{0, 0}, {40, 40}}));
+    EXPECT_EQ(Polyline({{NOT_A_NUMBER, NOT_A_NUMBER}, {INF, 1}}), Polyline({}));
+    EXPECT_EQ(Polygon({{INF, 1}}), Polygon({}));
+}
+
+TEST(ClippedDrawingTest, PolygonsThatRunFarOutsideKeepTheirFill)
+{
+    EXPECT_EQ(Polygon({{20, 20}, {1e30, 20}, {1e30, 60}, {20, 60}}),
+              Polygon({{20, 20}, {900, 20}, {900, 60}, {20, 60}}));
+    // The window lies inside the polygon.
+    EXPECT_EQ(Polygon({{-1e20, -1e20}, {1e20, -1e20}, {1e20, 1e20}, {-1e20, 1e20}}).pixelColor(50, 50),
+              QColor(Qt::blue));
+    // A triangle whose sides cross the window far from its corners: y < x + 10 and y > -x + 60.
+    QImage const image = Polygon({{25, 35}, {25 + 1e10, 35 + 1e10}, {25 + 1e10, 35 - 1e10}});
+    EXPECT_EQ(image.pixelColor(60, 35), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(60, 60), QColor(Qt::blue));
+    EXPECT_EQ(image.pixelColor(60, 85), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(20, 35), QColor(Qt::black));
+}
+
+TEST(ClippedDrawingTest, ManyFarStrokesEndInTime)
+{
+    Points points;
+    for (int i = 0; i < 2000; ++i) {
+        points.emplace_back(i % 2 == 0 ? 1e30 : -1e30, i / 2);
+    }
+    for (Qt::PenStyle const style : {Qt::SolidLine, Qt::DashLine, Qt::DotLine}) {
+        for (int const width : {1, 4}) {
+            auto const start = std::chrono::steady_clock::now();
+            Polyline(points, QPen(Qt::red, width, style));
+            std::chrono::duration<double> const seconds = std::chrono::steady_clock::now() - start;
+            RecordProperty("seconds_style" + std::to_string(style) + "_width" + std::to_string(width),
+                           std::to_string(seconds.count()));
+            EXPECT_LT(seconds.count(), 2.0) << style << " " << width;
+        }
+    }
+}

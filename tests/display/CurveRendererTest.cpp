@@ -1,0 +1,344 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "display/CurveRenderer.h"
+
+#include "display/CurveSupport.h"
+#include "display/DepthCurve.h"
+#include "display/DepthGeometry.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+using namespace curve_support;
+
+namespace {
+using Points = std::vector<QPointF>;
+using RenderFunction = int (*)(DepthCurve const&, Interval const&, int, int, Interval const&, Points&);
+
+Points Render(RenderFunction render, DepthCurve const& curve, Interval const& scale, int width, int height,
+              Interval const& view)
+{
+    Points points;
+    int const count = render(curve, scale, width, height, view, points);
+    EXPECT_GE(count, 0);
+    EXPECT_LE(static_cast<std::size_t>(count), points.size());
+    points.resize(static_cast<std::size_t>(count));
+    return points;
+}
+
+/// Value extent on each row, as the points show it on a scale of 1 per pixel.
+std::map<int, Interval> RowEnvelopes(Points const& points)
+{
+    std::map<int, Interval> rows;
+    for (QPointF const& point : points) {
+        Interval& row = rows[static_cast<int>(point.y())];
+        row.lower = std::min(row.lower, point.x());
+        row.upper = std::max(row.upper, point.x());
+    }
+    return rows;
+}
+
+class CurveRendererTest : public ::testing::Test
+{
+protected:
+    DepthUnit unit_{true};
+};
+} // namespace
+
+TEST_F(CurveRendererTest, ChoosesByTheNumberOfSamplesPerRow)
+{
+    // A sample each metre, a first-level bin each 3000 / 1001 = 2.997 m.
+    auto const channel = MakeRegularChannel(3001, 0, 1, [](std::size_t) { return 1.0F; });
+    DepthCurve curve(channel);
+    auto const method = [&](double metres_per_pixel) {
+        return CurveRenderer::ChooseMethod(curve, 100, {0, 100 * metres_per_pixel});
+    };
+    curve.ProcessCurve();
+    EXPECT_EQ(method(0.1), CurveRenderer::Method::RawCurve);
+    EXPECT_EQ(method(0.999), CurveRenderer::Method::RawCurve);
+    EXPECT_EQ(method(1.0), CurveRenderer::Method::RawCurveAsBins);
+    EXPECT_EQ(method(2.99), CurveRenderer::Method::RawCurveAsBins);
+    EXPECT_EQ(method(3.0), CurveRenderer::Method::BinCurve);
+    EXPECT_EQ(method(1000), CurveRenderer::Method::BinCurve);
+    curve.ClearProcessedCurve();
+    EXPECT_EQ(method(1000), CurveRenderer::Method::RawCurveAsBins);
+}
+
+TEST_F(CurveRendererTest, RenderParameters)
+{
+    auto const parameters = [](Interval const& view) {
+        return CurveRenderer::CalculateRenderParameters(11, 100, 200, 101, view);
+    };
+    auto const inside = parameters({125, 155});
+    ASSERT_TRUE(inside);
+    EXPECT_EQ(inside->first, 2);
+    EXPECT_EQ(inside->last, 6); // index 5 at 150 m, and one beyond the view
+    // y(200) = round(100 * 75 / 30) = 250, y(100) = round(-83.3) = -83
+    EXPECT_FLOAT_EQ(inside->pixels_per_value, 333.0F / 11);
+
+    auto const wider = parameters({0, 1000});
+    ASSERT_TRUE(wider);
+    EXPECT_EQ(wider->first, 0);
+    EXPECT_EQ(wider->last, 10);
+    EXPECT_FALSE(parameters({0, 85}));
+    EXPECT_FALSE(parameters({210, 300}));
+    EXPECT_FALSE(CurveRenderer::CalculateRenderParameters(0, 0, 1, 100, {0, 1}));
+}
+
+TEST_F(CurveRendererTest, RawCurveHoldsEachSampleInViewAndOneBeyond)
+{
+    auto const channel = MakeChannel({10, 11, 12, 13, 14, 15}, {0, 50, 100, 150, 50, 50});
+    DepthCurve const curve(channel);
+    // 100 rows per metre; the samples at 11 (-50), 12, 13 and 14 m.
+    Points const expected{{100, -50}, {200, 50}, {300, 150}, {100, 250}};
+    EXPECT_EQ(Render(CurveRenderer::RenderCurve, curve, {0, 100}, 200, 201, {11.5, 13.5}), expected);
+    Points const mirrored{{100, -50}, {0, 50}, {-100, 150}, {100, 250}};
+    EXPECT_EQ(Render(CurveRenderer::RenderRawCurve, curve, {100, 0}, 200, 201, {11.5, 13.5}), mirrored);
+}
+
+TEST_F(CurveRendererTest, RawCurveGoesThroughTheDepthsOfTheSettings)
+{
+    DepthUnit const feet(false);
+    auto const channel = MakeChannel({1000, 1001}, {0, 100});
+    DepthCurve const curve(channel);
+    // 1000 m is 3280.8399 ft in single precision (3280.83984375), and that is 999.99999 m: 1000 after
+    // rounding to float.
+    Points const points = Render(CurveRenderer::RenderRawCurve, curve, {0, 100}, 100, 1001, {999.5, 1001.5});
+    ASSERT_EQ(points.size(), 2U);
+    EXPECT_EQ(points[0].y(), 250);
+    EXPECT_EQ(points[1].y(), 750);
+}
+
+TEST_F(CurveRendererTest, FewSamplesPerRowShowTheEnvelopeOfEachRow)
+{
+    std::mt19937 random(11);
+    std::uniform_int_distribution<int> value(0, 999);
+    for (double const rows_of_samples : {1.0, 1.3, 2.0, 2.7}) {
+        constexpr int height = 200;
+        auto const channel =
+            MakeRegularChannel(2000, 0, 1, [&](std::size_t) { return static_cast<float>(value(random)); });
+        DepthCurve curve(channel);
+        curve.ProcessCurve();
+        Interval const view(300, 300 + height * rows_of_samples);
+        ASSERT_EQ(CurveRenderer::ChooseMethod(curve, height, view), CurveRenderer::Method::RawCurveAsBins);
+        Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 1000}, 1000, height, view);
+
+        std::map<int, Interval> expected;
+        for (std::size_t i = 0; i < channel->size(); ++i) {
+            double const depth = static_cast<double>(i);
+            if (depth < view.lower || depth > view.upper) {
+                continue;
+            }
+            int const row = static_cast<int>(std::round((height - 1) * (depth - view.lower) / view.Delta()));
+            expected[row].lower = std::min(expected[row].lower, static_cast<double>(channel->at(i)));
+            expected[row].upper = std::max(expected[row].upper, static_cast<double>(channel->at(i)));
+        }
+        auto const rows = RowEnvelopes(points);
+        // The last row and the one behind it take the sample beyond the view.
+        for (auto const& [row, envelope] : expected) {
+            ASSERT_TRUE(rows.contains(row)) << row;
+            if (row < height - 1) {
+                EXPECT_EQ(rows.at(row), envelope) << row;
+            }
+        }
+        EXPECT_TRUE(std::is_sorted(points.begin(), points.end(),
+                                   [](QPointF const& a, QPointF const& b) { return a.y() < b.y(); }));
+    }
+}
+
+TEST_F(CurveRendererTest, FewSamplesPerRowDropPointsOfTheSameColumn)
+{
+    // Two samples per row: 10.2 and 10.4 share a column, 10.4 and 10.6 do not.
+    auto const channel =
+        MakeChannel({0, 0.4, 1, 1.4, 2, 2.4, 3, 3.4}, {10.2F, 10.4F, 10.4F, 10.6F, 7, 7, 7, 9});
+    DepthCurve const curve(channel);
+    Points const points = Render(CurveRenderer::RenderRawCurveAsBins, curve, {0, 100}, 100, 4, {0, 3});
+    ASSERT_EQ(points.size(), 6U);
+    Points const rows_and_columns{{10, 0}, {10, 1}, {11, 1}, {7, 2}, {7, 3}, {9, 3}};
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        EXPECT_EQ(QPointF(std::round(points[i].x()), points[i].y()), rows_and_columns[i]) << i;
+    }
+}
+
+TEST_F(CurveRendererTest, BinsFallOnTheRowsBeneathTheirStart)
+{
+    // Four bins: (0,2) (3,5) (6,8) (9,11).
+    auto const channel = MakeRegularChannel(12, 0, 1, [](std::size_t i) { return static_cast<float>(i); });
+    DepthCurve curve(channel);
+    curve.ProcessCurve();
+    // Three rows, two of them from top to bottom: half a row per bin.
+    Points const three_rows{{0, 0}, {2, 0}, {3, 1}, {8, 1}, {9, 2}, {11, 2}};
+    EXPECT_EQ(Render(CurveRenderer::RenderBinCurve, curve, {0, 12}, 12, 3, {0, 11}), three_rows);
+
+    // Eleven rows, 2.5 rows per bin: bins start at 0, 2.5, 5, 7.5; the rows between them hold no number.
+    Points const sparse = Render(CurveRenderer::RenderBinCurve, curve, {0, 12}, 12, 11, {0, 11});
+    ASSERT_GE(sparse.size(), 8U);
+    EXPECT_EQ(sparse[0], QPointF(0, 0));
+    EXPECT_EQ(sparse[1], QPointF(2, 0));
+    EXPECT_EQ(sparse[2].x(), static_cast<double>(INF));
+    EXPECT_EQ(sparse[3].x(), -static_cast<double>(INF));
+    EXPECT_EQ(sparse[6], QPointF(3, 3));
+    EXPECT_EQ(sparse[7], QPointF(5, 3));
+}
+
+TEST_F(CurveRendererTest, ManySamplesPerRowKeepTheEnvelope)
+{
+    std::mt19937 random(5);
+    std::uniform_int_distribution<int> value(400, 600);
+    constexpr std::size_t size = 200'000;
+    constexpr int height = 500;
+    auto channel =
+        MakeRegularChannel(size, 1000, 0.01, [&](std::size_t) { return static_cast<float>(value(random)); });
+    std::vector<float> samples(channel->begin(), channel->end());
+    std::vector<std::size_t> const spikes{777, 33'333, 100'000, 150'001, size - 1};
+    std::vector<double> depths(size);
+    for (std::size_t i = 0; i < size; ++i) {
+        depths[i] = 1000 + 0.01 * static_cast<double>(i);
+    }
+    for (std::size_t const spike : spikes) {
+        samples[spike] = 950;
+    }
+    channel = MakeChannel(depths, samples);
+    DepthCurve curve(channel);
+    curve.ProcessCurve();
+
+    for (Interval const& view :
+         {Interval(1000, 3000), Interval(900, 3100), Interval(1300, 1700), Interval(990, 1100)}) {
+        ASSERT_EQ(CurveRenderer::ChooseMethod(curve, height, view), CurveRenderer::Method::BinCurve);
+        Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 1000}, 1000, height, view);
+        EXPECT_LE(points.size(), 2U * height);
+        auto const rows = RowEnvelopes(points);
+        auto const row_of = [&](double depth) { return (height - 1) * (depth - view.lower) / view.Delta(); };
+        double const first_row = std::max(0.0, row_of(1000));
+        double const last_row = std::min(height - 1.0, row_of(depths.back()));
+        EXPECT_NEAR(rows.begin()->first, first_row, 1);
+        EXPECT_NEAR(rows.rbegin()->first, last_row, 1.5);
+
+        // A row shows nothing that is not within two rows of it, and all that surely lies on it.
+        std::size_t row_start = 0;
+        for (auto const& [row, envelope] : rows) {
+            Interval near_extent;
+            while (row_start < size && row_of(depths[row_start]) < row - 2) {
+                ++row_start;
+            }
+            for (std::size_t i = row_start; i < size && row_of(depths[i]) <= row + 2; ++i) {
+                near_extent.lower = std::min(near_extent.lower, static_cast<double>(samples[i]));
+                near_extent.upper = std::max(near_extent.upper, static_cast<double>(samples[i]));
+            }
+            EXPECT_TRUE(envelope.IsInside(near_extent)) << row;
+        }
+        for (std::size_t const spike : spikes) {
+            double const row = row_of(depths[spike]);
+            if (row < 2 || row > height - 3) {
+                continue;
+            }
+            bool is_shown = false;
+            for (int offset = -2; offset <= 2; ++offset) {
+                auto const found = rows.find(static_cast<int>(row) + offset);
+                is_shown = is_shown || (found != rows.end() && found->second.upper == 950);
+            }
+            EXPECT_TRUE(is_shown) << "spike at sample " << spike;
+        }
+    }
+}
+
+TEST_F(CurveRendererTest, ACurveThatBeginsBelowTheTopStartsOnItsOwnRow)
+{
+    auto const channel =
+        MakeRegularChannel(30'000, 500, 0.01, [](std::size_t i) { return static_cast<float>(i % 7); });
+    DepthCurve curve(channel);
+    curve.ProcessCurve();
+    // 500 m of 0 to 1000 m on 201 rows: row 100; its 300 m end on row 160.
+    Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 10}, 100, 201, {0, 1000});
+    ASSERT_FALSE(points.empty());
+    EXPECT_EQ(points.front().y(), 100);
+    EXPECT_NEAR(points.back().y(), 160, 1);
+}
+
+TEST_F(CurveRendererTest, AConstantCurveHasOnePointPerRow)
+{
+    auto const channel = MakeRegularChannel(60'000, 0, 0.01, [](std::size_t) { return 5.0F; });
+    DepthCurve curve(channel);
+    curve.ProcessCurve();
+    Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 10}, 100, 300, {0, 600});
+    ASSERT_GE(points.size(), 299U);
+    ASSERT_LE(points.size(), 300U);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        ASSERT_EQ(points[i], QPointF(50, static_cast<double>(i)));
+    }
+}
+
+TEST_F(CurveRendererTest, NothingToDraw)
+{
+    auto channel = MakeRegularChannel(10'000, 0, 0.1, [](std::size_t i) { return static_cast<float>(i); });
+    DepthCurve curve(channel);
+    curve.ProcessCurve();
+    auto const count = [&](Interval const& scale, int width, int height, Interval const& view) {
+        return Render(CurveRenderer::RenderCurve, curve, scale, width, height, view).size();
+    };
+    double const nan = static_cast<double>(NOT_A_NUMBER);
+    double const inf = static_cast<double>(INF);
+    EXPECT_GT(count({0, 1}, 100, 100, {0, 1000}), 0U);
+    EXPECT_EQ(count({3, 3}, 100, 100, {0, 1000}), 0U);
+    EXPECT_EQ(count({nan, 3}, 100, 100, {0, 1000}), 0U);
+    EXPECT_EQ(count({-inf, inf}, 100, 100, {0, 1000}), 0U);
+    EXPECT_EQ(count({0, 1}, 0, 100, {0, 1000}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 0, {0, 1000}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, -5, {0, 1000}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, {5, 5}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, {5, 4}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, Interval()), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, {nan, 5}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, {-inf, inf}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, {2000, 3000}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, {-3000, -2000}), 0U);
+    channel.reset();
+    EXPECT_EQ(count({0, 1}, 100, 100, {0, 1000}), 0U);
+    EXPECT_EQ(count({0, 1}, 100, 100, {0, 1}), 0U);
+}
+
+TEST_F(CurveRendererTest, ShortOddAndUglyCurvesStayInBounds)
+{
+    std::mt19937 random(23);
+    auto const pick = [&](auto... choices) {
+        double const values[] = {static_cast<double>(choices)...};
+        return values[random() % (sizeof...(choices))];
+    };
+    for (int round = 0; round < 3000; ++round) {
+        auto const size = static_cast<std::size_t>(pick(0, 1, 2, 3, 10, 500, 9001));
+        double const first = pick(0, -100, 5000, 1e30);
+        double const step = pick(0.001, 0.1, 1, 0, -0.1, 1e30);
+        auto const channel = MakeRegularChannel(size, first, step, [&](std::size_t) {
+            return static_cast<float>(pick(0, 1, 50, 1e30, -1e30, static_cast<double>(INF), std::nan("")));
+        });
+        DepthCurve curve(channel);
+        if (random() % 4 != 0) {
+            curve.ProcessCurve();
+        }
+        auto const height = static_cast<int>(pick(1, 2, 3, 50, 1000));
+        double const top = first + pick(0, -1, 1, 3, 900, -1e20);
+        Interval const view(top, top + pick(1e-9, 0.01, 1, 100, 1e5, 1e25));
+        for (auto const render : {CurveRenderer::RenderCurve, CurveRenderer::RenderRawCurve,
+                                  CurveRenderer::RenderRawCurveAsBins, CurveRenderer::RenderBinCurve}) {
+            Render(render, curve, {0, 100}, 80, height, view);
+        }
+    }
+}
+
+TEST_F(CurveRendererTest, MoreDepthsThanSamplesAreNotRead)
+{
+    StorageDataChannel whole(QStringLiteral("filling"));
+    auto const source = MakeRegularChannel(100, 0, 1, [](std::size_t) { return 1.0F; });
+    auto const channel = std::make_shared<StorageDataChannel>(source.get(), 0);
+    for (int i = 0; i < 50; ++i) {
+        channel->push_back(2.0F); // samples without a depth
+    }
+    DepthCurve curve(channel);
+    curve.ProcessCurve();
+    EXPECT_LE(Render(CurveRenderer::RenderRawCurve, curve, {0, 10}, 100, 5000, {0, 200}).size(), 100U);
+    EXPECT_LE(Render(CurveRenderer::RenderRawCurveAsBins, curve, {0, 10}, 100, 50, {0, 200}).size(), 100U);
+}

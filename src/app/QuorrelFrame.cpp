@@ -30,6 +30,7 @@
 #include <QResizeEvent>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 #include <cmath>
@@ -210,8 +211,12 @@ void QuorrelFrame::InitialWindowResize()
     auto const& settings = SettingsSingleton::Instance();
     if (settings.GetFrameGeometry().isEmpty()) {
         auto const available = Quorrel::available_screen_size_pixels;
-        resize(static_cast<int>(std::lround(available.width() * 0.7)),
-               static_cast<int>(std::lround(available.height() * 0.7)));
+        // Before the frame's first resize the screen is not known and the default size stays.
+        QSize const wanted(static_cast<int>(std::lround(available.width() * 0.7)),
+                           static_cast<int>(std::lround(available.height() * 0.7)));
+        if (wanted.isValid()) {
+            resize(wanted);
+        }
     } else {
         restoreGeometry(settings.GetFrameGeometry());
     }
@@ -510,6 +515,22 @@ void QuorrelFrame::closeEvent(QCloseEvent* event)
 {
     QMainWindow::closeEvent(event);
     QCoreApplication::exit(0);
+}
+
+void QuorrelFrame::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    if (isMaximized()) {
+        QTimer::singleShot(300, this, &QuorrelFrame::CoverScreenIfMaximized);
+    }
+}
+
+void QuorrelFrame::CoverScreenIfMaximized()
+{
+    auto const available = screen()->availableGeometry();
+    if (isMaximized() && (width() < 0.9 * available.width() || height() < 0.8 * available.height())) {
+        setGeometry(available);
+    }
 }
 
 void QuorrelFrame::resizeEvent(QResizeEvent* event)

@@ -124,12 +124,15 @@ public slots:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void CreateActions();
     void CreateMenus();
     void CreateToolBars();
     void InitialWindowResize();
+    /// Covers the screen where the desktop does not maximise windows (no window manager).
+    void CoverScreenIfMaximized();
     void SetQuorrelTitle(bool modified);
     void SetActionIcons();
     void InitializeSeparatorAction();

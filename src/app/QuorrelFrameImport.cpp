@@ -43,8 +43,8 @@ void QuorrelFrame::OnLasFileLoaded(std::shared_ptr<LASFile> file, QString const&
                                    QString const& error, [[maybe_unused]] DisableToken token)
 {
     if (!ok || !file) {
-        emit LasFileFinishedLoading_Signal();
         QMessageBox::warning(this, tr("Warning"), error);
+        emit LasFileFinishedLoading_Signal();
         return;
     }
     if (!VerifyLASFile(*file)) {

@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "app/ActionTable.h"
+
+#include "app/FrameState.h"
+#include "support/PrintQt.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QStringList>
+
+#include <set>
+
+namespace {
+QStringList EnabledTexts(FrameState const& state)
+{
+    QStringList texts;
+    for (auto const& definition : ActionTable()) {
+        if (IsAvailable(definition.availability, state)) {
+            texts << definition.text;
+        }
+    }
+    texts.sort();
+    return texts;
+}
+
+QStringList Sorted(QStringList texts)
+{
+    texts.sort();
+    return texts;
+}
+
+QStringList const ALWAYS{
+    "&New Survey",       "New Project", "E&xit",     "&Settings", "&Tracking Mode [T]", "&Toggle Depth Unit",
+    "&Toggle Separator", "&About",      "About &Qt", "Homepage",  "Check for &updates"};
+QStringList const WITH_SURVEY{"Add LAS File to Survey",
+                              "&Edit Survey Notes",
+                              "Set Display Interval",
+                              "Zoom In",
+                              "Zoom Out",
+                              "Reset Zooms",
+                              "Zoom to Vertical Interval",
+                              "Zoom to Horizontal Interval [Z]",
+                              "Adjust Scales To Visible Depth",
+                              "&Define Interpretation Zones [I]"};
+QStringList const WITH_PASS{"&Hide Pass", "&Highlight Pass", "&Stretch Pass", "&Shift Pass [S]"};
+/// What the program cannot do yet, in any state.
+std::set<QString> const NOT_YET{"&Convert DLIS to LAS",
+                                "&DLIS Browser",
+                                "&Generate PDF file",
+                                "&Open Project",
+                                "&Save Project",
+                                "Well Details Window",
+                                "Import Well Details From JSON",
+                                "&Show Vertical Section",
+                                "&Screens Manager",
+                                "Calculate Well Volumes",
+                                "&DataBrowser",
+                                "Change Visible Dataviews",
+                                "Generate Pipe Wall Dataview with MFC data from current log-pass",
+                                "&Toggle MFC 3D Window",
+                                "&Toggle MFC Cross Section Window",
+                                "&Spinner Calibration",
+                                "&Edit Interpreation Zones",
+                                "&Edit Interpreation Parameters",
+                                "&Show 3D Well Trajectory"};
+} // namespace
+
+TEST(ActionTableTest, EachStateTurnsOnItsActions)
+{
+    FrameState state;
+    EXPECT_EQ(EnabledTexts(state), Sorted(ALWAYS)) << "no survey";
+
+    // Left-over facts of a survey that is gone turn nothing on.
+    state = {};
+    state.has_pass = state.undo_available = state.redo_available = state.has_caliper_view = true;
+    state.has_interpretation_zones = true;
+    EXPECT_EQ(EnabledTexts(state), Sorted(ALWAYS)) << "pass, undo and zones without a survey";
+
+    state = {};
+    state.has_survey = true;
+    state.is_first_pass = state.is_last_pass = true;
+    EXPECT_EQ(EnabledTexts(state), Sorted(ALWAYS + WITH_SURVEY)) << "survey without passes";
+
+    state.has_pass = true;
+    EXPECT_EQ(EnabledTexts(state), Sorted(ALWAYS + WITH_SURVEY + WITH_PASS)) << "one pass";
+
+    state.is_last_pass = false;
+    EXPECT_EQ(EnabledTexts(state), Sorted(ALWAYS + WITH_SURVEY + WITH_PASS + QStringList{"&Next Pass"}))
+        << "first of several passes";
+    state.is_first_pass = false;
+    EXPECT_EQ(EnabledTexts(state),
+              Sorted(ALWAYS + WITH_SURVEY + WITH_PASS + QStringList{"&Next Pass", "&Previous Pass"}))
+        << "a pass in the middle";
+
+    state = {};
+    state.has_survey = state.undo_available = true;
+    EXPECT_EQ(EnabledTexts(state), Sorted(ALWAYS + WITH_SURVEY + QStringList{"Undo View Change"}));
+    state.redo_available = true;
+    state.undo_available = false;
+    EXPECT_EQ(EnabledTexts(state), Sorted(ALWAYS + WITH_SURVEY + QStringList{"Redo View Change"}));
+
+    state = {};
+    state.has_survey = state.has_caliper_view = true;
+    EXPECT_EQ(EnabledTexts(state),
+              Sorted(ALWAYS + WITH_SURVEY + QStringList{"&MFC Mode [M]", "&MFC Color Map [C]"}));
+}
+
+TEST(ActionTableTest, TextsAndKeysAreUniqueAndWhatIsMissingStandsDisabled)
+{
+    std::set<QString> texts;
+    std::set<QString> keys;
+    std::set<QString> not_yet;
+    for (auto const& definition : ActionTable()) {
+        EXPECT_TRUE(texts.insert(definition.text).second) << definition.text;
+        if (!definition.key.isEmpty()) {
+            EXPECT_TRUE(keys.insert(definition.key.toString()).second) << definition.text;
+        }
+        if (definition.availability == Availability::NotYet) {
+            not_yet.insert(definition.text);
+        }
+    }
+    EXPECT_EQ(texts.size(), 50U);
+    EXPECT_EQ(not_yet, NOT_YET);
+    for (auto const* key : {"Z", "S", "M", "C", "T", "I", "Ctrl+S"}) {
+        EXPECT_EQ(keys.count(key), 1U) << key;
+    }
+}

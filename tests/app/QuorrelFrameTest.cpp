@@ -1,0 +1,345 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "app/QuorrelFrame.h"
+
+#include "app/kit/Quorrel.h"
+#include "app/kit/SettingsSingleton.h"
+#include "display/BaseCombinedViewWidget.h"
+#include "display/ColumnWindow.h"
+#include "display/ScrollAreaWrapper.h"
+#include "model/DepthLogPass.h"
+#include "resources/Resources.h"
+#include "support/DialogAnswer.h"
+#include "support/PrintQt.h"
+#include "support/TestFiles.h"
+#include "support/WaitFor.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolBar>
+
+namespace {
+/// A LAS file of `rows` rows from 1000 m on, step 1 m, with a GR curve.
+QByteArray MakeLas(QByteArray const& step = "1.0", QByteArray const& extra_well = "NULL. -999.25 :\n",
+                   QByteArray const& index = "DEPT.M : depth\n", int rows = 11)
+{
+    QByteArray las = "~Version\nVERS. 2.0 :\nWRAP. NO :\n~Well\nSTRT.M 1000 :\nSTOP.M " +
+                     QByteArray::number(999 + rows) + " :\nSTEP.M " + step + " :\n" + extra_well +
+                     "~Curve\n" + index + "GR.GAPI : gamma\n~Ascii\n";
+    for (int i = 0; i < rows; ++i) {
+        las += QByteArray::number(1000 + i) + " " + QByteArray::number(40 + i) + ".5\n";
+    }
+    return las;
+}
+
+/// The dialogs an import opened.
+struct Seen
+{
+    QStringList titles;
+    QStringList messages;
+};
+
+class QuorrelFrameTest : public testing::Test
+{
+protected:
+    static void SetUpTestSuite() { qInitResources_Quorrel(); }
+
+    void SetUp() override
+    {
+        auto& settings = SettingsSingleton::Instance();
+        settings.SetAutomaticCheckForUpdates(false);
+        settings.SetIsMaximized(false);
+        settings.SetSeparatorSelection(US);
+        settings.SetMetricDepth(true);
+        frame_ = std::make_unique<QuorrelFrame>();
+        frame_->resize(1200, 800);
+        frame_->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(frame_.get()));
+    }
+
+    void TearDown() override
+    {
+        frame_.reset();
+        SettingsSingleton::Instance().SetMetricDepth(false);
+        SettingsSingleton::Instance().SetSeparatorSelection(US);
+    }
+
+    QAction* Action(QString const& text)
+    {
+        auto* action = frame_->GetAction(text);
+        EXPECT_NE(action, nullptr) << text.toStdString();
+        return action;
+    }
+
+    QComboBox* PassComboBox() { return frame_->findChild<QComboBox*>("LogPassComboBox"); }
+
+    /// Chooses files through "Add LAS File to Survey" and waits for all of them. The file dialog is answered
+    /// first, then `answers` in order; the titles of all dialogs come back.
+    Seen Import(QStringList const& paths, std::vector<DialogAnswer::Answer> answers = {})
+    {
+        answers.insert(answers.begin(), [paths](QDialog* dialog) {
+            auto* files = qobject_cast<QFileDialog*>(dialog);
+            ASSERT_NE(files, nullptr);
+            QStringList quoted;
+            for (auto const& path : paths) {
+                quoted << '"' + path + '"';
+            }
+            files->findChild<QLineEdit*>("fileNameEdit")
+                ->setText(quoted.size() == 1 ? paths.first() : quoted.join(' '));
+            static_cast<QDialog*>(files)->accept();
+        });
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        DialogAnswer dialogs(std::move(answers));
+        QSignalSpy finished(frame_.get(), &QuorrelFrame::LasFileFinishedLoading_Signal);
+        Action("Add LAS File to Survey")->trigger();
+        EXPECT_TRUE(WaitFor([&] { return finished.count() >= paths.size(); }));
+        return {dialogs.GetTitles(), dialogs.GetMessages()};
+    }
+
+    test_files::Folder folder_;
+    std::unique_ptr<QuorrelFrame> frame_;
+};
+} // namespace
+
+TEST_F(QuorrelFrameTest, MenusAndToolBarsStandInOrder)
+{
+    QStringList menus;
+    for (auto* action : frame_->menuBar()->actions()) {
+        menus << action->text();
+    }
+    EXPECT_EQ(menus, (QStringList{"&File", "&View", "&Edit", "&Help"}));
+    QStringList bars;
+    for (auto* bar : frame_->findChildren<QToolBar*>()) {
+        bars << bar->windowTitle();
+    }
+    EXPECT_EQ(bars, (QStringList{"File", "Zoom", "Screens Toolbar", "Settings", "Well", "Survey", "Passes",
+                                 "Multifinger Caliper", "Interpretation"}));
+    for (auto const* title :
+         {"Passes", "Zoom", "Survey", "Interpretation", "Screens Toolbar", "Multifinger Caliper"}) {
+        EXPECT_FALSE(frame_->findChild<QToolBar*>(title)->isEnabled()) << title;
+    }
+    EXPECT_FALSE(Action("Set Display Interval")->isEnabled());
+    EXPECT_EQ(frame_->statusBar()->currentMessage(), QString("Ready"));
+    EXPECT_THAT(
+        frame_->windowTitle().toStdString(),
+        testing::MatchesRegex("Quorrel - Build date: [0-9]{2}-[A-Z][a-z]{2}-[0-9]{4}        Latest version "
+                              "can be found at .+"));
+}
+
+TEST_F(QuorrelFrameTest, ANewSurveyGoesStraightToChoosingFiles)
+{
+    {
+        DialogAnswer dialogs({[](QDialog* dialog) {
+            qobject_cast<QInputDialog*>(dialog)->setTextValue("Run 1");
+            dialog->accept();
+        }});
+        Action("&New Survey")->trigger();
+        EXPECT_EQ(dialogs.GetTitles(), (QStringList{"New Survey", "Open LAS File"}));
+    }
+    EXPECT_EQ(frame_->GetAllSurveyNames(), QList<QString>{"Run 1"});
+    EXPECT_TRUE(frame_->findChild<QToolBar*>("Zoom")->isEnabled());
+    EXPECT_TRUE(Action("Set Display Interval")->isEnabled());
+    EXPECT_FALSE(frame_->findChild<QToolBar*>("Passes")->isEnabled());
+
+    DialogAnswer dialogs;
+    Action("&New Survey")->trigger(); // cancelled
+    EXPECT_EQ(dialogs.GetTitles(), (QStringList{"New Survey", "Empty survey name"}));
+    EXPECT_EQ(dialogs.GetMessages(), (QStringList{"Please enter valid survey name"}));
+    EXPECT_EQ(frame_->GetAllSurveyKeys().size(), 1);
+}
+
+TEST_F(QuorrelFrameTest, AnImportedFileBecomesAPassWithAView)
+{
+    auto const key = frame_->AddNewSurvey("A");
+    auto const path = folder_.Write(QString::fromUtf8("Log æ 1.las"), MakeLas());
+    auto const dialogs = Import({path});
+    EXPECT_EQ(dialogs.titles, (QStringList{"Open LAS File"}));
+    ASSERT_EQ(PassComboBox()->count(), 1);
+    EXPECT_EQ(PassComboBox()->itemText(0), QString::fromUtf8("Log æ 1.las"));
+    EXPECT_EQ(PassComboBox()->itemData(0, Qt::BackgroundRole).value<QColor>(), QColor(Qt::red));
+    auto const column = frame_->GetColumnWindow(key);
+    ASSERT_NE(column->FindCombinedViewWidget("GR"), nullptr);
+    EXPECT_TRUE(column->FindCombinedViewWidget("GR")->isVisible());
+    // the data from 1000 to 1010 m and 1 m more at each end
+    EXPECT_EQ(column->GetTotalDisplayedInterval(), Interval(999, 1011));
+
+    EXPECT_TRUE(Import({path}).messages.isEmpty()) << "the same file again is dropped silently";
+    EXPECT_EQ(PassComboBox()->count(), 1);
+
+    Import({folder_.Write("b.las", MakeLas()), folder_.Write("c.las", MakeLas())});
+    EXPECT_EQ(PassComboBox()->count(), 3);
+    EXPECT_EQ(column->FindAllAutomaticDataViews().size(), 1) << "one view per mnemonic over all passes";
+}
+
+TEST_F(QuorrelFrameTest, FilesThatCannotBeTakenAreToldOf)
+{
+    frame_->AddNewSurvey("A");
+    auto refused = Import({folder_.Write("v1.las", QByteArray(MakeLas()).replace("2.0 :", "1.2 :"))});
+    ASSERT_EQ(refused.messages.size(), 1);
+    EXPECT_THAT(refused.messages.first().toStdString(),
+                testing::AllOf(testing::StartsWith("Exception cought while importing "),
+                               testing::EndsWith("v1.las:<BR>Unknown Version: 1.2")));
+    EXPECT_EQ(Import({folder_.Write("nonull.las", MakeLas("1.0", ""))}).messages,
+              (QStringList{"Undefined MNEM: NULL"}));
+    EXPECT_EQ(PassComboBox()->count(), 0);
+    EXPECT_EQ(Import({folder_.Write("step0.las", MakeLas("0"))}).messages,
+              (QStringList{"NOTICE: LAS File has STEP == 0. It has been resampled to fixed depth steps to be "
+                           "compatible with Quorrel."}));
+    EXPECT_EQ(PassComboBox()->count(), 1);
+}
+
+TEST_F(QuorrelFrameTest, ATimeLogAsksForItsDepth)
+{
+    auto const key = frame_->AddNewSurvey("A");
+    auto const path = folder_.Write("station.las", MakeLas("1.0", "NULL. -999.25 :\n", "TIME.S : time\n"));
+    auto const dialogs = Import({path}, {[](QDialog* dialog) {
+                                    auto* input = qobject_cast<QInputDialog*>(dialog);
+                                    EXPECT_EQ(input->labelText(), QString("station.las"));
+                                    input->setDoubleValue(1234.56);
+                                    dialog->accept();
+                                }});
+    EXPECT_EQ(dialogs.titles, (QStringList{"Open LAS File", "Log Depth[m]"}));
+    ASSERT_EQ(frame_->GetTimeLogIdentifierHashes(key).size(), 1);
+    auto const log = frame_->GetTimeLog({key, frame_->GetTimeLogIdentifierHashes(key).first()});
+    EXPECT_FLOAT_EQ(log->GetLogDepth(), 1234.56F);
+    EXPECT_EQ(PassComboBox()->count(), 0);
+}
+
+TEST_F(QuorrelFrameTest, HideAndHighlightBelongToTheSelectedPass)
+{
+    auto const key = frame_->AddNewSurvey("A");
+    Import({folder_.Write("a.las", MakeLas()), folder_.Write("b.las", MakeLas())});
+    ASSERT_EQ(PassComboBox()->count(), 2);
+    PassComboBox()->setCurrentIndex(0);
+    EXPECT_FALSE(Action("&Previous Pass")->isEnabled());
+    EXPECT_TRUE(Action("&Next Pass")->isEnabled());
+    Action("&Hide Pass")->trigger();
+    auto const first = frame_->GetCurrentLogPassIdentifier();
+    EXPECT_TRUE(frame_->GetLogPassProperties(first).hidden);
+    Action("&Next Pass")->trigger();
+    EXPECT_EQ(PassComboBox()->currentIndex(), 1);
+    EXPECT_FALSE(Action("&Hide Pass")->isChecked());
+    EXPECT_TRUE(Action("&Previous Pass")->isEnabled());
+    EXPECT_FALSE(Action("&Next Pass")->isEnabled());
+    Action("&Highlight Pass")->trigger();
+    EXPECT_TRUE(frame_->GetLogPassProperties(frame_->GetCurrentLogPassIdentifier()).highlighted);
+    EXPECT_FALSE(frame_->GetLogPassProperties(first).highlighted);
+
+    frame_->DeleteLogPass(first);
+    EXPECT_EQ(PassComboBox()->count(), 1);
+    EXPECT_TRUE(Action("&Highlight Pass")->isChecked()) << "the remembered pass stays selected";
+    frame_->DeleteLogPass(frame_->GetCurrentLogPassIdentifier());
+    EXPECT_FALSE(frame_->findChild<QToolBar*>("Passes")->isEnabled());
+    EXPECT_TRUE(frame_->GetColumnWindow(key)->FindAllAutomaticDataViews().isEmpty());
+}
+
+TEST_F(QuorrelFrameTest, MouseToolsExcludeEachOther)
+{
+    frame_->AddNewSurvey("A");
+    Import({folder_.Write("a.las", MakeLas())});
+    auto const column = frame_->GetCurrentColumnWindow();
+    Action("Zoom to Horizontal Interval [Z]")->trigger();
+    Action("&Shift Pass [S]")->trigger();
+    EXPECT_FALSE(Action("Zoom to Horizontal Interval [Z]")->isChecked());
+    EXPECT_TRUE(Action("&Shift Pass [S]")->isChecked());
+    EXPECT_FALSE(column->GetParameters().GetHorizontalZoomChecked());
+    EXPECT_TRUE(column->GetParameters().GetShiftChecked());
+    {
+        DialogAnswer refuse;
+        Action("&Stretch Pass")->trigger();
+        EXPECT_EQ(refuse.GetTitles(), (QStringList{"Stretch Anchor Depth"}));
+    }
+    EXPECT_FALSE(Action("&Stretch Pass")->isChecked()) << "no anchor, no stretch";
+    EXPECT_FALSE(column->GetParameters().GetStretchChecked());
+    DialogAnswer accept({DialogAnswer::Accept()});
+    Action("&Stretch Pass")->trigger();
+    EXPECT_TRUE(Action("&Stretch Pass")->isChecked());
+    EXPECT_FALSE(Action("&Shift Pass [S]")->isChecked());
+}
+
+TEST_F(QuorrelFrameTest, UnitAndSeparatorFollowTheirActions)
+{
+    auto& settings = SettingsSingleton::Instance();
+    settings.SetSeparatorSelection(International);
+    QuorrelFrame frame;
+    auto* separator = frame.GetAction("&Toggle Separator");
+    EXPECT_FALSE(separator->isChecked());
+    separator->trigger();
+    EXPECT_EQ(settings.GetSeparatorSelection(), US);
+    separator->trigger();
+    EXPECT_EQ(settings.GetSeparatorSelection(), AlternativeInternational);
+    auto* unit = frame.GetAction("&Toggle Depth Unit");
+    EXPECT_TRUE(unit->isChecked());
+    unit->trigger();
+    EXPECT_FALSE(settings.IsMetricDepth());
+}
+
+TEST_F(QuorrelFrameTest, TheStatusBarReadsDepthAndWellPath)
+{
+    frame_->OnUpdateStatusBar(1000.0F, "GR: 45.00GAPI");
+    EXPECT_EQ(frame_->statusBar()->currentMessage(), QString("Depth: 1,000.00m. GR: 45.00GAPI"));
+    // A straight hole at 60 degrees: half of the length along it is depth.
+    frame_->SetTrajectorySurvey({{0.0F, 60.0F, 90.0F}, {2000.0F, 60.0F, 90.0F}}, {});
+    frame_->OnUpdateStatusBar(1000.0F, "x");
+    EXPECT_EQ(frame_->statusBar()->currentMessage(),
+              QString("Depth: 1,000.00m  ( 500.0m TVD, incl.: 60.00deg, DLS: 0.00deg/30m ). x"));
+    SettingsSingleton::Instance().SetMetricDepth(false);
+    frame_->OnUpdateStatusBar(1000.0F, "x");
+    EXPECT_EQ(frame_->statusBar()->currentMessage(),
+              QString("Depth: 3,280.84ft  ( 1,640.4ft TVD, incl.: 60.00deg, DLS: 0.00deg/100ft ). x"));
+    frame_->OnUpdateStatusBar(std::numeric_limits<float>::quiet_NaN(), "x");
+    EXPECT_EQ(frame_->statusBar()->currentMessage(), QString());
+}
+
+TEST_F(QuorrelFrameTest, EachSurveyHasItsColumnAndOnlyTheCurrentOneShows)
+{
+    auto const a = frame_->AddNewSurvey("Run");
+    auto const b = frame_->AddNewSurvey("Run");
+    EXPECT_EQ(frame_->GetSurveyName(b), QString("Run_#1"));
+    EXPECT_EQ(frame_->GetCurrentColumnWindow(), frame_->GetColumnWindow(b));
+    auto* combo = frame_->findChild<QComboBox*>("SurveyComboBox");
+    combo->setCurrentIndex(0);
+    EXPECT_EQ(frame_->GetCurrentSurveyKey(), a);
+    EXPECT_EQ(frame_->GetCurrentColumnWindow(), frame_->GetColumnWindow(a));
+    frame_->OnSurveyDeleted(a);
+    EXPECT_EQ(frame_->GetCurrentSurveyKey(), b);
+    EXPECT_EQ(frame_->GetCurrentColumnWindow(), frame_->GetColumnWindow(b));
+    EXPECT_TRUE(Action("Zoom In")->isEnabled());
+    frame_->OnSurveyDeleted(b);
+    EXPECT_FALSE(Action("Zoom In")->isEnabled());
+    EXPECT_TRUE(frame_->GetCurrentColumnWindow().isNull());
+    frame_->AddNewSurvey("Again");
+    Action("New Project")->trigger();
+    EXPECT_TRUE(frame_->GetAllSurveyKeys().isEmpty());
+    EXPECT_EQ(combo->count(), 0);
+}
+
+TEST_F(QuorrelFrameTest, UndoAndRedoFollowTheCurrentColumn)
+{
+    auto const key = frame_->AddNewSurvey("A");
+    Import({folder_.Write("a.las", MakeLas())});
+    auto const column = frame_->GetColumnWindow(key);
+    auto const before = column->GetViewDepth();
+    EXPECT_FALSE(Action("Undo View Change")->isEnabled());
+    Action("Zoom In")->trigger();
+    EXPECT_NE(column->GetViewDepth(), before);
+    ASSERT_TRUE(Action("Undo View Change")->isEnabled());
+    frame_->AddNewSurvey("B");
+    EXPECT_FALSE(Action("Undo View Change")->isEnabled()) << "the new survey has nothing to undo";
+    frame_->findChild<QComboBox*>("SurveyComboBox")->setCurrentIndex(0);
+    ASSERT_TRUE(Action("Undo View Change")->isEnabled());
+    Action("Undo View Change")->trigger();
+    EXPECT_EQ(column->GetViewDepth(), before);
+    EXPECT_TRUE(Action("Redo View Change")->isEnabled());
+}

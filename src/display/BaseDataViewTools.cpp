@@ -183,8 +183,11 @@ bool BaseDataView::RenderCurveTracker_common(QPainter& painter, double depth, De
         tracker_label_side_ = false;
     }
     QSizeF const box_size = painter.boundingRect(QRectF(), Qt::AlignLeft, text).size() * label_factor;
-    QRectF box(QPointF(tracker_label_side_ ? 0 : width() - box_size.width(), y), box_size);
-    if (box.bottom() > height()) {
+    // Half the frame lies outside the box; the box stays whole at the view's edges as far as it fits.
+    double const inset = tool_width * 0.5;
+    double const left = tracker_label_side_ ? inset : width() - inset - box_size.width();
+    QRectF box(QPointF(std::max(inset, left), y), box_size);
+    if (box.bottom() + inset > height()) {
         box.moveBottom(y);
     }
     painter.setPen(QPen(Qt::red, tool_width));

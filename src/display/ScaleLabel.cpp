@@ -4,6 +4,7 @@
 #include "display/ScaleLabel.h"
 
 #include <QMouseEvent>
+#include <QPainter>
 
 void ScaleLabel::mousePressEvent(QMouseEvent* event)
 {
@@ -18,4 +19,12 @@ void ScaleLabel::mouseMoveEvent(QMouseEvent* event)
 void ScaleLabel::mouseReleaseEvent(QMouseEvent* event)
 {
     emit MoveButtonReleased_Signal(static_cast<int>(event->globalPosition().y()));
+}
+
+void ScaleLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    painter.drawText(rect(), static_cast<int>(alignment()),
+                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }

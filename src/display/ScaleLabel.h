@@ -18,6 +18,8 @@ signals:
     void MoveButtonReleased_Signal(int global_y);
 
 protected:
+    /// Shortens a name that does not fit; the tool tip has it whole.
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/kit/Globals.h"
+#include "app/kit/SettingsSingleton.h"
+#include "display/BaseViewWidgetParameters.h"
+#include "display/ColumnContext.h"
+#include "display/ColumnSlots.h"
+#include "model/BaseDepthDataChannel.h"
+#include "model/BaseLogPassRecord.h"
+#include "model/DepthLogPass.h"
+#include "model/LogPassProperties.h"
+#include "model/TimeLog.h"
+#include "well/DepthMarker.h"
+#include "well/DirectionalSurveyData.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPointF>
+#include <QStringList>
+#include <QWidget>
+
+#include <cmath>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <vector>
+
+/// What the views of a column need to live, without a column.
+namespace view_bench {
+/// A depth channel with properties of its own, as if it belonged to a log pass.
+class Channel final : public BaseDepthDataChannel
+{
+public:
+    Channel(DataChannelIdentifier const& identifier, HeaderRow const& header,
+            std::vector<double> const& depths, std::vector<float> samples, QPen const& pen)
+        : Channel(identifier, header, depths, std::make_shared<SampleVector>(std::move(samples)), pen)
+    {
+    }
+
+    [[nodiscard]] QString GetName() const override { return GetCurveInfo().mnemonic; }
+    [[nodiscard]] LogPassProperties const& GetLogPassProperties() const override { return properties; }
+    [[nodiscard]] bool IsDependentOn(DataChannelIdentifier const& pattern) const override
+    {
+        return GetDataChannelIdentifier().IsDependentOn(pattern);
+    }
+    [[nodiscard]] DepthChannel const& GetDepth() const override { return depth; }
+
+    DepthChannel depth;
+    LogPassProperties properties;
+
+private:
+    Channel(DataChannelIdentifier const& identifier, HeaderRow const& header,
+            std::vector<double> const& depths, std::shared_ptr<SampleVector> const& samples, QPen const& pen)
+        : BaseDepthDataChannel(identifier, samples, header), depth(depths, true)
+    {
+        properties.identifier = identifier.GetLogPassIdentifier();
+        properties.pen = pen;
+    }
+};
+
+using Function = std::function<double(double depth)>;
+
+/// Samples every half metre from top to bottom, both included.
+inline std::shared_ptr<Channel> MakeChannel(QString const& hash, int index, QString const& mnemonic,
+                                            QString const& unit, Function const& value, double top = 1000,
+                                            double bottom = 1100, QPen const& pen = QPen(Qt::red))
+{
+    std::vector<double> depths;
+    std::vector<float> samples;
+    for (double depth = top; depth <= bottom; depth += 0.5) {
+        depths.push_back(depth);
+        samples.push_back(static_cast<float>(value(depth)));
+    }
+    return std::make_shared<Channel>(
+        DataChannelIdentifier(1, hash, index),
+        HeaderRow(mnemonic, unit, QString(), mnemonic + QStringLiteral(" description")), depths,
+        std::move(samples), pen);
+}
+
+/// The value equals (depth - 1000) / 100 times `factor`: 0 at the top of the bench's view, `factor` at its
+/// bottom.
+inline std::shared_ptr<Channel> MakeRamp(QString const& hash, int index, QString const& mnemonic,
+                                         double factor = 100)
+{
+    return MakeChannel(hash, index, mnemonic, QStringLiteral("u"),
+                       [factor](double depth) { return (depth - 1000) / 100 * factor; });
+}
+
+/// Writes down what the views ask of their column, and passes cursor and selection on like a real one.
+class Column final : public ColumnSlots
+{
+public:
+    struct Undo
+    {
+        QString view;
+        DataChannelIdentifier identifier;
+        Interval before;
+        Interval after;
+    };
+
+    void MoveCursors(int y, float depth, QString const& text) override
+    {
+        calls << QStringLiteral("MoveCursors");
+        cursor_y = y;
+        cursor_depth = depth;
+        cursor_text = text;
+        if (on_cursor) {
+            on_cursor(y);
+        }
+    }
+    void RemoveCursors() override
+    {
+        calls << QStringLiteral("RemoveCursors");
+        if (on_cursor) {
+            on_cursor(-1);
+        }
+    }
+    void OnVerticalSelectionBegin(int y) override
+    {
+        calls << QStringLiteral("Begin");
+        selection = {y};
+    }
+    void OnVerticalSelectionEnd(int y1, int y2) override
+    {
+        calls << QStringLiteral("End");
+        selection = {y1, y2};
+    }
+    void OnScaleHeightChanged() override { calls << QStringLiteral("ScaleHeight"); }
+    void OnVisibleHeightChanged(int height) override
+    {
+        calls << QStringLiteral("VisibleHeight");
+        visible_height = height;
+    }
+    void OnVisibleWidgetsChanged() override { calls << QStringLiteral("VisibleWidgets"); }
+    void OnMoveViewWidget(QWidget* widget, QPointF const& global) override
+    {
+        calls << QStringLiteral("Move");
+        moved = widget;
+        moved_to = global;
+    }
+    void PushUndo(QString const& view, DataChannelIdentifier const& identifier, Interval const& before,
+                  Interval const& after) override
+    {
+        calls << QStringLiteral("Undo");
+        undo.push_back({view, identifier, before, after});
+    }
+    void OnShiftCompleted() override { calls << QStringLiteral("ShiftCompleted"); }
+    void OnDepthStretchStarted() override { calls << QStringLiteral("StretchStarted"); }
+    void OnDepthStretchCompleted() override { calls << QStringLiteral("StretchCompleted"); }
+    void OnUndoBatchStarted() override { calls << QStringLiteral("BatchStarted"); }
+    void OnUndoBatchCompleted() override { calls << QStringLiteral("BatchCompleted"); }
+
+    [[nodiscard]] qsizetype Count(QString const& call) const { return calls.count(call); }
+
+    QStringList calls;
+    std::vector<Undo> undo;
+    std::vector<int> selection;
+    int cursor_y = -1;
+    float cursor_depth = 0;
+    QString cursor_text;
+    int visible_height = 0;
+    QWidget* moved = nullptr;
+    QPointF moved_to;
+    std::function<void(int)> on_cursor;
+};
+
+/// A column's context showing 1000 to 1100 m, in metres, with the display state of a 96 dpi screen. Puts the
+/// process-wide state back when it goes.
+class Bench
+{
+public:
+    Bench()
+    {
+        parameters.SetTotalDisplayedDepthInterval(Interval(1000, 1100));
+        parameters.SetViewDepthMetric(Interval(1000, 1100));
+        context.parameters = &parameters;
+        context.current_pass = &current_pass;
+        context.directional_survey = &survey;
+        context.markers_a = &markers_a;
+        context.markers_b = &markers_b;
+        SettingsSingleton::Instance().SetMetricDepth(true);
+        SettingsSingleton::Instance().SetSeparatorSelection(US);
+        Quorrel::DPI_X = 96;
+        Quorrel::DPI_Y = 96;
+        Quorrel::TRACKING_MODE = false;
+    }
+    ~Bench()
+    {
+        SettingsSingleton::Instance().SetMetricDepth(false);
+        SettingsSingleton::Instance().SetSeparatorSelection(US);
+        Quorrel::TRACKING_MODE = false;
+    }
+    Bench(Bench const&) = delete;
+    Bench& operator=(Bench const&) = delete;
+
+    BaseViewWidgetParameters parameters;
+    CurrentDepthLogPass current_pass;
+    DirectionalSurveyData survey;
+    QList<DepthMarker> markers_a;
+    QList<DepthMarker> markers_b;
+    ColumnContext context;
+};
+
+/// A depth log pass of this hash without curves, to be the current one.
+inline std::shared_ptr<DepthLogPass> MakePass(QString const& hash)
+{
+    BASE_LOGPASS_STRUCT record;
+    record.properties.identifier = LogPassIdentifier(1, hash);
+    std::vector<double> depths{1000, 1100};
+    return std::make_shared<DepthLogPass>(record, BaseLog::DataMatrix(), true, 0.0F, 1.0F, depths);
+}
+
+/// A move with the left button down, which QTest::mouseMove does not carry.
+inline void Drag(QWidget* widget, QPoint const& position)
+{
+    QMouseEvent event(QEvent::MouseMove, QPointF(position), widget->mapToGlobal(QPointF(position)),
+                      Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &event);
+}
+} // namespace view_bench

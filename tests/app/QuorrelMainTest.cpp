@@ -1,0 +1,101 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "app/kit/SettingsKeys.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace settings_keys;
+
+namespace {
+/// Runs the program from start to end with a home and a working folder of its own.
+class Program : public ::testing::Test
+{
+protected:
+    struct Result
+    {
+        int exit_code;
+        QString output;
+    };
+
+    Result Run(QStringList const& arguments) const
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CONFIG_HOME", home.path());
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(home.path());
+        process.start(QStringLiteral(QUORREL_MAIN_PROGRAM), arguments);
+        EXPECT_TRUE(process.waitForFinished(120000)) << process.errorString().toStdString();
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << process.readAllStandardError().toStdString();
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput())};
+    }
+
+    [[nodiscard]] std::unique_ptr<QSettings> Store() const
+    {
+        return std::make_unique<QSettings>(home.filePath("MyCorp/main_program.conf"), QSettings::IniFormat);
+    }
+
+    QTemporaryDir home;
+};
+} // namespace
+
+TEST_F(Program, HelpNamesTheArguments)
+{
+    Result const help = Run({"--help"});
+    EXPECT_EQ(help.exit_code, 0);
+    for (char const* text : {"Test helper", "-h, --help", "-v, --version", "-r, --reset", "Reset settings",
+                             "qz4_file", "QZ4 file to load"}) {
+        EXPECT_TRUE(help.output.contains(text)) << text << " in " << help.output.toStdString();
+    }
+}
+
+TEST_F(Program, VersionIsEmpty)
+{
+    Result const version = Run({"-v"});
+    EXPECT_EQ(version.exit_code, 0);
+    EXPECT_EQ(version.output, "main_program \n");
+}
+
+TEST_F(Program, AnUnknownOptionIsRefused)
+{
+    EXPECT_EQ(Run({"--unknown"}).exit_code, 1);
+}
+
+TEST_F(Program, AFirstStartIsMaximisedAndLeavesAllSettings)
+{
+    Result const result = Run({});
+    EXPECT_EQ(result.exit_code, 0);
+    EXPECT_EQ(result.output, "window MainWindow maximised\n");
+    auto const store = Store();
+    EXPECT_FALSE(store->value(FRAME_GEOMETRY).toByteArray().isEmpty());
+    EXPECT_TRUE(store->value(IS_MAXIMIZED).toBool());
+    EXPECT_EQ(store->value(MATH_EQUATION_KEY), "A+B");
+    EXPECT_FALSE(QFile::exists(home.filePath("file.log")));
+}
+
+TEST_F(Program, TheWindowComesBackAsItWas)
+{
+    Store()->setValue(IS_MAXIMIZED, false);
+    EXPECT_EQ(Run({}).output, "window MainWindow normal\n");
+    EXPECT_EQ(Store()->value(IS_MAXIMIZED), "false");
+}
+
+TEST_F(Program, ResetClearsTheSettingsAndAMissingProjectStillOpensTheWindow)
+{
+    Store()->setValue(MATH_EQUATION_KEY, "A-B");
+    Store()->setValue(IS_MAXIMIZED, false);
+    Store()->setValue("unknown", 1);
+    Result const result = Run({"--reset", home.filePath("missing.qz4"), "second.qz4"});
+    EXPECT_EQ(result.exit_code, 0);
+    EXPECT_TRUE(result.output.endsWith("window MainWindow maximised\n")) << result.output.toStdString();
+    EXPECT_EQ(Store()->value(MATH_EQUATION_KEY), "A+B");
+    EXPECT_FALSE(Store()->contains("unknown"));
+}

@@ -40,7 +40,7 @@ public:
             (void)axis_.GetDepthStep_metric(); // throws
         }
         double const position = (depth - first_) / step_;
-        if (!(position >= 0 && std::floor(position) < segments_)) {
+        if (!(position >= 0 && position < segments_)) {
             return samples_.back();
         }
         auto const i = static_cast<std::size_t>(position);

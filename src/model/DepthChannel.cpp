@@ -7,30 +7,10 @@
 #include "app/kit/SettingsSingleton.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <stdexcept>
 #include <utility>
-
-namespace {
-std::shared_ptr<DepthChannel::DepthVector> ScaledCopy(DepthChannel::DepthVector const& depths, double factor)
-{
-    auto scaled = std::make_shared<DepthChannel::DepthVector>(depths);
-    for (double& depth : *scaled) {
-        depth *= factor;
-    }
-    return scaled;
-}
-
-std::shared_ptr<DepthChannel::DepthVector> ConvertToMetric(DepthChannel::DepthVector const& feet)
-{
-    return ScaledCopy(feet, Quorrel::FEET_TO_METRES);
-}
-
-std::shared_ptr<DepthChannel::DepthVector> ConvertToImperial(DepthChannel::DepthVector const& metres)
-{
-    return ScaledCopy(metres, Quorrel::METRES_TO_FEET);
-}
-} // namespace
 
 DepthChannel::DepthChannel(DepthVector const& depths, bool is_metric)
     : native_depths_(depths), is_native_metric_(is_metric)
@@ -138,15 +118,25 @@ void DepthChannel::AssignAndConvertDepth()
     // rounding.
     double const native_shift = is_native_metric_ ? shift_ : shift_ / Quorrel::FEET_TO_METRES;
     double const offset = static_cast<double>(static_cast<float>(native_shift));
-    auto working = std::make_shared<DepthVector>(native_depths_);
-    for (double& depth : *working) {
-        depth = stretch_ * depth + offset;
+    double const factor = is_native_metric_ ? Quorrel::METRES_TO_FEET : Quorrel::FEET_TO_METRES;
+    auto const working = std::make_shared<DepthVector>();
+    auto const converted = std::make_shared<DepthVector>();
+    working->reserve(native_depths_.size());
+    converted->reserve(native_depths_.size());
+    // In blocks that stay in the cache, so that the new vectors are written once and never read back.
+    constexpr std::size_t block_size = 512;
+    std::array<double, block_size> block;
+    for (std::size_t begin = 0; begin < native_depths_.size(); begin += block_size) {
+        std::size_t const count = std::min(block_size, native_depths_.size() - begin);
+        for (std::size_t i = 0; i < count; ++i) {
+            block[i] = stretch_ * native_depths_[begin + i] + offset;
+        }
+        working->insert(working->end(), block.data(), block.data() + count);
+        for (std::size_t i = 0; i < count; ++i) {
+            block[i] *= factor;
+        }
+        converted->insert(converted->end(), block.data(), block.data() + count);
     }
-    if (is_native_metric_) {
-        imperial_depths_ = ConvertToImperial(*working);
-        metric_depths_ = std::move(working);
-    } else {
-        metric_depths_ = ConvertToMetric(*working);
-        imperial_depths_ = std::move(working);
-    }
+    metric_depths_ = is_native_metric_ ? working : converted;
+    imperial_depths_ = is_native_metric_ ? converted : working;
 }

@@ -4,6 +4,7 @@
 #include "model/SurveyMap.h"
 
 #include "ModelFixtures.h"
+#include "model/UniqueNames.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -45,15 +46,15 @@ TEST(SurveyMap, GivesKeysAndUniqueNames)
     EXPECT_EQ(surveys.AddSurvey("First"), 0);
 }
 
-TEST(SurveyMap, NumbersNamesInTheSettingsFormat)
+TEST(UniqueNames, NumbersAreInTheSettingsFormat)
 {
     SettingsGuard const settings(true, International);
-    SurveyMap surveys;
-    for (int i = 0; i <= 1000; ++i) {
-        surveys.AddSurvey("N");
+    QSet<QString> taken{"N"};
+    for (int i = 1; i < 1000; ++i) {
+        taken.insert(QStringLiteral("N_#%1").arg(i));
     }
-    EXPECT_EQ(surveys.at(999).lock()->GetName(), "N_#999");
-    EXPECT_EQ(surveys.at(1000).lock()->GetName(), "N_#1.000");
+    EXPECT_EQ(Quorrel::GenerateUniqueName("N", taken), "N_#1.000");
+    EXPECT_EQ(Quorrel::GenerateUniqueName("n", taken), "n");
 }
 
 TEST(DataStorageMap, KeysAndNamesOfStoredChannels)

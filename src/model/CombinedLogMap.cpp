@@ -8,6 +8,17 @@
 #include <QCryptographicHash>
 
 #include <algorithm>
+#include <type_traits>
+
+namespace {
+/// A channel's handle that keeps its log alive too, since the channel looks into the log.
+template <typename LogType>
+auto ChannelOf(std::shared_ptr<LogType> const& log, int index)
+{
+    auto const channel = log->GetDataChannel(index);
+    return std::remove_const_t<decltype(channel)>(log, channel.get());
+}
+} // namespace
 
 CombinedLogMap::CombinedLogMap(int survey_key) : time_logs_(survey_key), depth_logs_(survey_key) {}
 
@@ -62,21 +73,21 @@ BaseLog const& CombinedLogMap::GetLog(QString const& hash) const
 std::shared_ptr<BaseDepthDataChannel const> CombinedLogMap::GetDepthDataChannel(QString const& hash,
                                                                                 int index) const
 {
-    return depth_logs_.at(hash)->GetDataChannel(index);
+    return ChannelOf(depth_logs_.at(hash), index);
 }
 
 std::shared_ptr<TimeLogDataChannel const>
 CombinedLogMap::GetTimeDataChannel(DataChannelIdentifier const& identifier) const
 {
-    return time_logs_.at(identifier.GetHash())->GetDataChannel(identifier.GetIndex());
+    return ChannelOf(time_logs_.at(identifier.GetHash()), identifier.GetIndex());
 }
 
 std::shared_ptr<BaseDataChannel const> CombinedLogMap::GetDataChannel(QString const& hash, int index) const
 {
     if (depth_logs_.contains(hash)) {
-        return depth_logs_.at(hash)->GetDataChannel(index);
+        return ChannelOf(depth_logs_.at(hash), index);
     }
-    return time_logs_.at(hash)->GetDataChannel(index);
+    return ChannelOf(time_logs_.at(hash), index);
 }
 
 QList<DataChannelIdentifier> CombinedLogMap::GetDataIdentifiers(QString const& hash,

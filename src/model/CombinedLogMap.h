@@ -41,6 +41,7 @@ public:
     /// Whichever log has the hash.
     [[nodiscard]] BaseLog const& GetLog(QString const& hash) const;
 
+    // Channel handles keep the whole log alive while they are held; weak ones made of them do not.
     /// @throws std::out_of_range for a bad index
     [[nodiscard]] std::shared_ptr<BaseDepthDataChannel const> GetDepthDataChannel(QString const& hash,
                                                                                   int index) const;

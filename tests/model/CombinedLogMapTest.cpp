@@ -111,6 +111,20 @@ TEST(CombinedLogMap, FindsChannelsOfEitherKind)
     EXPECT_EQ(logs.GetTimeLog(time)->GetProperties(), properties);
 }
 
+TEST(CombinedLogMap, AHeldChannelOutlivesTheDeletionOfItsLog)
+{
+    CombinedLogMap logs(SURVEY);
+    QString const hash = AddDepth(logs, "/logs/depth.las")->hash;
+    std::weak_ptr<DepthLogPass> const log_pass = logs.GetDepthLogPass(hash);
+    {
+        auto const channel = logs.GetDepthDataChannel(hash, 1);
+        logs.DeleteLogPass(hash);
+        EXPECT_EQ(channel->GetValueAtDepth(100.5), 3.5F);
+        EXPECT_EQ(channel->GetLogPassProperties().identifier.hash, hash);
+    }
+    EXPECT_TRUE(log_pass.expired());
+}
+
 TEST(CombinedLogMap, SaysThatAHashIsUnknown)
 {
     CombinedLogMap logs(SURVEY);

@@ -90,12 +90,9 @@ void LasAsciiData::ReadRows()
         }
         index.push_back(current);
 
-        DataValueType* cell = batch_.data() + batch_rows;
-        for (std::size_t column = 0; column < columns_; ++column, cell += ROWS_IN_BATCH) {
-            if (!number.FindNextNumber()) {
-                ThrowIncompleteRow(column);
-            }
-            *cell = static_cast<DataValueType>(number.ParseFloat());
+        std::size_t const read = number.ReadNumbers(batch_.data() + batch_rows, ROWS_IN_BATCH, columns_);
+        if (read < columns_) {
+            ThrowIncompleteRow(read);
         }
         if (++batch_rows == ROWS_IN_BATCH) {
             AppendBatch(batch_rows);

@@ -5,6 +5,10 @@
 
 #include "formats/las/FileBuffer.h"
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -67,6 +71,31 @@ public:
         return is_negative ? -value : value;
     }
 
+    /// FindNextNumber and ParseFloat `count` times, narrowed to single precision, into cells `stride` apart.
+    /// Returns how many numbers were there; less than `count` at the end of the file only.
+    std::size_t ReadNumbers(float* cells, std::size_t stride, std::size_t count)
+    {
+        char const* cursor = buffer_.Cursor();
+        for (std::size_t i = 0; i < count; ++i) {
+            while (kinds_[static_cast<unsigned char>(*cursor)] == Kind::Separator) {
+                ++cursor;
+            }
+            double value = 0.0;
+            if (!ParseShort(cursor, value)) {
+                buffer_.SetCursor(cursor);
+                if (!FindNextNumber()) {
+                    return i;
+                }
+                value = ParseFloat();
+                cursor = buffer_.Cursor();
+            }
+            *cells = static_cast<float>(value);
+            cells += stride;
+        }
+        buffer_.SetCursor(cursor);
+        return count;
+    }
+
 private:
     enum class Kind : unsigned char
     {
@@ -77,6 +106,63 @@ private:
 
     static constexpr std::size_t MOST_EXACT_DECIMALS = 19;
     static constexpr std::size_t MOST_DECIMALS = 20;
+
+    /// The usual number: up to 8 integer digits, up to 8 decimals, less than 16 characters in all. Both ends
+    /// are found in one step, so that the next number need not wait for the digits of this one. False, with
+    /// nothing moved, for any other number and where the block ends.
+    bool ParseShort(char const*& cursor, double& value) const
+    {
+#if defined(__SSE2__)
+        __m128i const text = _mm_loadu_si128(reinterpret_cast<__m128i const*>(cursor));
+        // As signed bytes, the ten digits are the lowest after this shift.
+        __m128i const shifted = _mm_add_epi8(text, _mm_set1_epi8(static_cast<char>(128 - '0')));
+        auto const digits =
+            static_cast<unsigned>(_mm_movemask_epi8(_mm_cmplt_epi8(shifted, _mm_set1_epi8(-128 + 10))));
+        bool const is_negative = *cursor == '-';
+        if ((digits & 1U) == 0 && !is_negative) {
+            return false;
+        }
+        // Digit or sign, the first character ends nothing.
+        unsigned stops = ~digits & 0xFFFEU;
+        auto const point = static_cast<unsigned>(std::countr_zero(stops));
+        bool const has_point = point < 16 && cursor[point] == '.';
+        if (has_point) {
+            stops &= stops - 1;
+        }
+        auto const length = static_cast<unsigned>(std::countr_zero(stops));
+        unsigned const decimals = has_point ? length - point - 1 : 0;
+        unsigned const integers = point - (is_negative ? 1 : 0);
+        if (stops == 0 || integers > 8 || decimals > 8 || integers + decimals == 0) {
+            return false;
+        }
+        char const* const end = cursor + length;
+        if (end == buffer_.End() && !buffer_.IsLastBlock()) {
+            return false;
+        }
+        auto const integer = static_cast<double>(UpToEightDigits(cursor + point - integers, integers));
+        auto const fraction = static_cast<double>(UpToEightDigits(end - decimals, decimals));
+        double const magnitude = integer + fraction * tenths_[decimals];
+        // Signs come at random, so they are set without a branch.
+        value = std::bit_cast<double>(std::bit_cast<std::uint64_t>(magnitude) | std::uint64_t{is_negative}
+                                                                                    << 63U);
+        cursor = end;
+        return true;
+#else
+        (void)cursor;
+        (void)value;
+        return false;
+#endif
+    }
+
+    static std::int32_t UpToEightDigits(char const* digits, unsigned count)
+    {
+        std::uint64_t chunk = 0;
+        std::memcpy(&chunk, digits, sizeof(chunk));
+        // The digits move to the end; what stood behind them falls off and zeros come in front. Shifting by
+        // 64 is not defined, hence the two steps.
+        chunk = count == 0 ? 0 : (chunk ^ 0x3030303030303030U) << (64U - 8U * count);
+        return static_cast<std::int32_t>(EightDigits(chunk));
+    }
 
     /// The digits at the cursor as an integer, modulo 2^64; moves behind them.
     static std::uint64_t StringToLong(char const*& cursor)

@@ -105,7 +105,7 @@ TEST(LasMemory, NoFileTakesMoreThanFourTimesItsSize)
         char const* outcome;
     };
     std::int64_t const large = 100'000'000;
-    std::int64_t const medium = 30'000'000;
+    std::int64_t const medium = 20'000'000;
     std::string const one_channel =
         "~V\nVERS. 2.0 :\n~W\nSTRT.M 0 :\nSTOP.M 9 :\nSTEP.M 0 :\n~C\nDEPT.M :\nA. :\n~A\n";
     std::string const no_channel =

@@ -25,6 +25,15 @@ std::vector<double> Numbers(std::string const& text)
     while (number.FindNextNumber()) {
         numbers.push_back(number.ParseFloat());
     }
+    // Reading many at a time takes another way to the same numbers.
+    std::istringstream again(text);
+    FileBuffer second_buffer(again);
+    std::vector<float> cells(2 * numbers.size() + 2, 0.0F);
+    EXPECT_EQ(LasNumber(second_buffer).ReadNumbers(cells.data(), 2, numbers.size() + 1), numbers.size());
+    for (std::size_t i = 0; i < numbers.size(); ++i) {
+        EXPECT_EQ(cells[2 * i], static_cast<float>(numbers[i])) << "number " << i;
+        EXPECT_EQ(std::signbit(cells[2 * i]), std::signbit(numbers[i])) << "number " << i;
+    }
     return numbers;
 }
 
@@ -61,6 +70,10 @@ TEST(LasNumber, ReadsPlainDecimals)
         {"-.5", {-0.5}},
         {"-999.25", {-999.25}},
         {"00012.5000", {12.5}},
+        {"12345678.87654321", {12345678.0 + 87654321 * 1e-8}},
+        {"-1234567.1234567", {-(1234567.0 + 1234567 * 1e-7)}},
+        {"123456789.5", {123456789.5}},
+        {"1.123456789", {1.0 + 123456789 * 1e-9}},
         {"12345678", {12345678.0}},
         {"123456789012345", {123456789012345.0}},
         {"0.12345678", {12345678 * 1e-8}},

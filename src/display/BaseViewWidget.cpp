@@ -114,10 +114,9 @@ void BaseViewWidget::mouseReleaseEvent(QMouseEvent* event)
     }
     if ((parameters_->GetVerticalZoomChecked() || parameters_->GetInterpretationZonesDefinitionChecked()) &&
         selection_start_y_ >= 0) {
-        auto const [low, high] = std::minmax(selection_start_y_, static_cast<int>(event->position().y()));
-        int const y1 = low;
-        int const y2 = high;
-        emit VerticalSelectionEnd_Signal(y1, y2);
+        int const start = selection_start_y_;
+        int const end = static_cast<int>(event->position().y());
+        emit VerticalSelectionEnd_Signal(std::min(start, end), std::max(start, end));
     }
     selection_start_x_ = -1;
     selection_start_y_ = -1;

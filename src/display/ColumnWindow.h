@@ -228,6 +228,8 @@ public slots:
     void OnDepthStretchStarted() override;
     void OnStretch(DataChannelIdentifier const* identifier, float start, float drag, float anchor);
     void OnDepthStretchCompleted() override;
+    void OnUndoBatchStarted() override;
+    void OnUndoBatchCompleted() override;
 
 signals:
     void UpdateAllDepthIntervals_Signal();

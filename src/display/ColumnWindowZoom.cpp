@@ -210,6 +210,16 @@ void ColumnWindow::PushUndo(QString const& view, DataChannelIdentifier const& id
     undo_redo_.InsertHorizontalZoomCommand(this, view, identifier, before, after);
 }
 
+void ColumnWindow::OnUndoBatchStarted()
+{
+    undo_redo_.StartBatch();
+}
+
+void ColumnWindow::OnUndoBatchCompleted()
+{
+    undo_redo_.StopBatch();
+}
+
 void ColumnWindow::SetDataViewScale(QString const& view, DataChannelIdentifier const& identifier,
                                     Interval const& scale)
 {

@@ -10,6 +10,8 @@ MyAbstractScrollArea::MyAbstractScrollArea(QWidget* parent) : QAbstractScrollAre
 {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // What lies in the viewport inherits this role; its own is the ground of text fields.
+    viewport()->setBackgroundRole(QPalette::Window);
     verticalScrollBar()->setPageStep(50);
     verticalScrollBar()->setSingleStep(30);
 }

@@ -3,6 +3,8 @@
 
 #include "display/ColumnFixture.h"
 
+#include "display/CombinedDataViewWidget.h"
+
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QWheelEvent>
@@ -181,6 +183,29 @@ TEST_F(ColumnWindowZoomTest, ScalesAdjustToTheVisibleDepthAsOneStep)
     column->Undo();
     EXPECT_EQ(views[0]->GetHorizontalScale(), Interval(0, 1000));
     EXPECT_EQ(views[1]->GetHorizontalScale(), Interval(1000, 2000));
+    EXPECT_FALSE(column->UndoAvailable());
+}
+
+TEST_F(ColumnWindowZoomTest, ScalesSetTogetherInAUserViewAreOneStep)
+{
+    auto const pass = MakePass("a", 0, 1000, {"GR", "CCL"});
+    CombinedDataViewWidget* mine = column->CreateDataView_Public("Mine", false);
+    column->AddDepthDataChannelToDataView("Mine", pass->GetDataChannel(0));
+    column->AddDepthDataChannelToDataView("Mine", pass->GetDataChannel(1));
+    auto const scale = [&](std::size_t index) { return mine->GetScales().at(index)->scale; };
+    Interval const first = scale(0);
+    Interval const second = scale(1);
+    std::vector<std::shared_ptr<ScaleItemParameters>> records;
+    for (auto const& record : mine->GetScales()) {
+        records.push_back(std::make_shared<ScaleItemParameters>(*record));
+        records.back()->scale = Interval(20, 10); // a reversed scale stays reversed
+    }
+    mine->SetScales(records);
+    EXPECT_EQ(scale(0), Interval(20, 10));
+    EXPECT_EQ(scale(1), Interval(20, 10));
+    column->Undo();
+    EXPECT_EQ(scale(0), first);
+    EXPECT_EQ(scale(1), second);
     EXPECT_FALSE(column->UndoAvailable());
 }
 

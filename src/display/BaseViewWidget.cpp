@@ -23,6 +23,8 @@ BaseViewWidget::BaseViewWidget(QWidget* parent, QString const& name,
 {
     SetNameAndTitle(name);
     setAttribute(Qt::WA_MouseTracking);
+    // The cached pixmap covers the whole widget, so nothing below it needs painting on a mouse move.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(Qt::BlankCursor);
 }
 

@@ -10,8 +10,8 @@
 #include "app/kit/Interval.h"
 #include "app/kit/SettingsSingleton.h"
 #include "display/AutomaticDataView.h"
-#include "display/BaseScaleDialog.h"
 #include "display/BaseCombinedViewWidget.h"
+#include "display/BaseScaleDialog.h"
 #include "display/ColumnWindow.h"
 #include "display/CombinedDataViewWidget.h"
 #include "formats/las/LASFile.h"
@@ -27,8 +27,7 @@
 #include <cstdio>
 #include <exception>
 
-namespace
-{
+namespace {
 class GuidePictures
 {
 public:
@@ -106,10 +105,7 @@ private:
         Settle();
     }
 
-    void SetScale(QString const& view, Interval const& scale)
-    {
-        Column().SetDataViewScale(view, {}, scale);
-    }
+    void SetScale(QString const& view, Interval const& scale) { Column().SetDataViewScale(view, {}, scale); }
 
     BaseViewWidget& View(QString const& name)
     {
@@ -150,6 +146,8 @@ private:
     void SaveScaleDialog(QString const& view)
     {
         Mouse(*dragged_, QEvent::MouseButtonRelease, {0.7, 0.62}, Qt::NoButton);
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(dragged_, &leave);
         auto* pair = dynamic_cast<CombinedDataViewWidget*>(Column().FindCombinedViewWidget(view));
         BaseScaleDialog dialog(&frame_, pair);
         dialog.show();

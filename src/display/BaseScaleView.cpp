@@ -25,6 +25,8 @@ BaseScaleView::BaseScaleView(QWidget* parent)
     name_palette.setColor(QPalette::Window, name_background);
     name_palette.setColor(QPalette::WindowText, Qt::black);
     name_area_->setPalette(name_palette);
+    // Set, because in a scroll area the role would be the viewport's, which is Base.
+    name_area_->setBackgroundRole(QPalette::Window);
     name_area_->setAutoFillBackground(true);
     name_area_->setFixedHeight(LINE_HEIGHT);
 

@@ -10,6 +10,7 @@
 #include "display/ScaleItemParameters.h"
 #include "display/ScaleLabel.h"
 
+#include <QAbstractScrollArea>
 #include <QImage>
 #include <QPainter>
 #include <QSignalSpy>
@@ -169,6 +170,15 @@ TEST(BaseScaleView, PrintsNameAndItemsOneBelowTheOther)
     auto const [b_first, b_last] = rows_of(QColor(0, 180, 0));
     EXPECT_GE(b_first, 100);
     EXPECT_LT(b_last, 140);
+}
+
+TEST(DataViewScale, ItsNameStandsOnTheHeaderColourAlsoInAScrollArea)
+{
+    QAbstractScrollArea area;
+    auto* const scale = new DataViewScale(area.viewport());
+    scale->resize(200, 40);
+    scale->SetName(QStringLiteral("GR"));
+    EXPECT_EQ(scale->grab().toImage().pixelColor(3, 3), QColor(0x99, 0xB4, 0xD1));
 }
 
 TEST(DepthAxisScale, ShowsTheDepthUnitOfTheMoment)

@@ -1,0 +1,21 @@
+~Version
+VERS. 2.0 : CWLS
+WRAP. NO : One line
+~Well
+STRT.M 2 : Start
+STOP.M 1 : Stop
+STEP.M -0.5 : Step
+NULL. -999.25 : Null
+~Param
+BS.IN 8.5 : Bit size
+~Curve
+DEPT.M : 1 Depth
+GR.GAPI : 2 Gamma
+CAL[1].IN : 3 Finger
+CAL[2].IN : 4 Finger
+~Other
+remark
+~A
+2 1 1 1
+1.5 2 2 2
+1 3 3 3

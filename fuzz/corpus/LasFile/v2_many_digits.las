@@ -1,0 +1,19 @@
+~Version
+VERS. 2.0 : CWLS
+WRAP. NO : One line
+~Well
+STRT.M 1 : Start
+STOP.M 2 : Stop
+STEP.M 0 : Step
+NULL. -999.25 : Null
+~Param
+BS.IN 8.5 : Bit size
+~Curve
+DEPT.M : 1 Depth
+GR.GAPI : 2 Gamma
+CAL[1].IN : 3 Finger
+CAL[2].IN : 4 Finger
+~Other
+remark
+~A
+18446744073709551616 0.12345678901234567890 123456789012345678901234567890 9

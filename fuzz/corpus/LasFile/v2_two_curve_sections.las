@@ -1,0 +1,22 @@
+~Version
+VERS. 2.0 : CWLS
+WRAP. NO : One line
+~Well
+STRT.M 1 : Start
+STOP.M 2 : Stop
+STEP.M 1 : Step
+NULL. -999.25 : Null
+~Param
+BS.IN 8.5 : Bit size
+~Curve
+DEPT.M :
+GR. :
+~C
+A. :
+B. :
+C. :
+~Other
+remark
+~A
+1 2 3 4 5
+2 3 4 5 6

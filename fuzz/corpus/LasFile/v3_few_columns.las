@@ -1,0 +1,16 @@
+~Version
+VERS. 3.0 : CWLS
+WRAP. NO :
+DLM. SPACE : d
+~Well
+STRT.M 1 : First {F}
+STOP.M 2 : Last {F}
+STEP.M 0.5 : Step {F}
+NULL. -999.25 : Null
+~Log_Definition
+DEPT.M : Depth {F}
+GR.GAPI 1 : Gamma {F} | RUN[1]
+NMR[1].ms : echo {A:0}
+NMR[2].ms : echo {A:5}
+~Log_Data | Log_Definition
+1 2

@@ -1,0 +1,12 @@
+~V
+VERS. 3.0 :
+~W
+~Log_Definition
+DEPT.M : Depth {F}
+GR.GAPI 1 : Gamma {F} | RUN[1]
+NMR[1].ms : echo {A:0}
+NMR[2].ms : echo {A:5}
+~Log_Data | Log_Definition
+1.0 10 2.1 3
+1.5 20 2.2e0 4
+2.0 30 -999.25 5

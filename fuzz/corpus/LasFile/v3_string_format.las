@@ -1,0 +1,12 @@
+~Version
+VERS. 3.0 : CWLS
+WRAP. NO :
+DLM. SPACE : d
+~Well
+STRT.M 1 : First {F}
+STOP.M 2 : Last {F}
+STEP.M 0.5 : Step {F}
+NULL. -999.25 : Null
+~Core_Definition
+T.M : t {F}
+X. : x {S}

@@ -1,0 +1,13 @@
+~Version
+VERS. 3.0 : CWLS
+WRAP. NO :
+DLM. SPACE : d
+~Well
+STRT.M 1 : First {F}
+STOP.M 2 : Last {F}
+STEP.M 0.5 : Step {F}
+NULL. -999.25 : Null
+~Log_Data | Log_Definition
+1.0 10 2.1 3
+1.5 20 2.2e0 4
+2.0 30 -999.25 5

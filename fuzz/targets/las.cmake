@@ -1,0 +1,1 @@
+quorrel_fuzz(LasFile quorrel_las)

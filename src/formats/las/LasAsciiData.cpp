@@ -29,7 +29,7 @@ LasAsciiData::LasAsciiData(std::istream& stream, LasContent& content)
       columns_(content.CalculateNumberOfColumns()),
       memory_allowance_(BASIC_ALLOWANCE +
                         4 * std::max<std::int64_t>(0, buffer_.EndPosition() - buffer_.Position())),
-      batch_(columns_ * ROWS_IN_BATCH)
+      batch_(std::max<std::size_t>(columns_, 1) * ROWS_IN_BATCH)
 {
 }
 

@@ -38,6 +38,32 @@ double ClampedAcos(double cosine)
     return std::acos(std::clamp(cosine, -1.0, 1.0));
 }
 
+/// The first item whose measured depth is greater: a binary search between bounds found by doubling steps
+/// from where the item would stand if all courses were of equal length. O(log n) on any survey; on usual ones
+/// it touches few items far apart, which is what a plain search of a long survey spends its time on. `md` is
+/// not above the last depth.
+DirectionalSurveyData::TrajectoryVector::const_iterator
+FindFirstBelow(DirectionalSurveyData::TrajectoryVector const& trajectory, float md)
+{
+    auto const is_above = [](float depth, WellTrajectoryItem const& item) {
+        return depth < item.GetMeasuredDepth();
+    };
+    auto const last = static_cast<std::ptrdiff_t>(trajectory.size()) - 1;
+    double const first_md = trajectory.front().GetMeasuredDepth();
+    double const share = (md - first_md) / (trajectory.back().GetMeasuredDepth() - first_md);
+    auto low = share >= 0 && share <= 1 ? static_cast<std::ptrdiff_t>(share * static_cast<double>(last)) : 0;
+    auto high = low;
+    for (std::ptrdiff_t step = 1; low > 0 && is_above(md, trajectory[low]); step *= 2) {
+        high = low;
+        low = std::max<std::ptrdiff_t>(low - step, 0);
+    }
+    for (std::ptrdiff_t step = 1; high < last && !is_above(md, trajectory[high]); step *= 2) {
+        low = high;
+        high = std::min(high + step, last);
+    }
+    return std::upper_bound(trajectory.cbegin() + low, trajectory.cbegin() + high + 1, md, is_above);
+}
+
 /// Single-precision text of a depth cut to whole units; no "-0".
 QString WholeDepthText(float metres)
 {
@@ -115,9 +141,7 @@ std::optional<WellTrajectoryItem> DirectionalSurveyData::InterpolateWellTrajecto
     }
     auto upper = trajectory_.cend() - 1;
     if (md != upper->GetMeasuredDepth()) {
-        upper = std::upper_bound(
-            trajectory_.cbegin(), trajectory_.cend(), md,
-            [](float depth, WellTrajectoryItem const& item) { return depth < item.GetMeasuredDepth(); });
+        upper = FindFirstBelow(trajectory_, md);
     }
     if (upper == trajectory_.cend() || upper == trajectory_.cbegin()) {
         return std::nullopt;

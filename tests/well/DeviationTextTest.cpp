@@ -103,7 +103,7 @@ TEST_F(DeviationTextTest, BinaryAndHugeFiles)
 
     QByteArray binary;
     for (int i = 0; i < 100'000; ++i) {
-        binary.append(static_cast<char>(i * i % 251));
+        binary.append(static_cast<char>(i % 1000 * i % 251));
     }
     EXPECT_FALSE(Read(binary, {DeviationText::WHITESPACE_SEPARATOR}).error.isEmpty());
     DeviationTextResult const line = Read(QByteArray(20'000'000, ','), {DeviationText::COMMA_SEPARATOR});

@@ -217,6 +217,27 @@ TEST(DirectionalSurveyData, InterpolatesFromTheStationsOnly)
     EXPECT_NEAR(last->dls, 30, 1e-4);
 }
 
+TEST(DirectionalSurveyData, FindsTheIntervalAmongUnevenStations)
+{
+    // Built in one plane, so that half way between two stations the inclination is their mean.
+    for (bool const is_dense_at_top : {true, false}) {
+        std::vector<DirectionalSurveyItem> stations;
+        for (int i = 0; i <= 200; ++i) {
+            auto const cube = static_cast<float>(
+                is_dense_at_top ? i * i * i : 8'000'000 - (200 - i) * (200 - i) * (200 - i));
+            stations.emplace_back(cube, 0.4F * static_cast<float>(i), 0.0F);
+        }
+        DirectionalSurveyData const survey = Survey(stations);
+        for (std::size_t i = 0; i + 1 < stations.size(); ++i) {
+            float const from = stations[i].measured_depth;
+            float const to = stations[i + 1].measured_depth;
+            EXPECT_NEAR(survey.InterpolateWellTrajectory(from)->GetInclination(), 0.4 * i, 1e-4);
+            EXPECT_NEAR(survey.InterpolateWellTrajectory((from + to) / 2)->GetInclination(), 0.4 * i + 0.2,
+                        1e-4);
+        }
+    }
+}
+
 TEST(DirectionalSurveyData, AzimuthOfAPoint)
 {
     EXPECT_EQ(DirectionalSurveyData::CalculateAzimuth(0, 5), 0);

@@ -6,6 +6,7 @@
 #include "app/kit/Quorrel.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTextStream>
 
@@ -48,8 +49,9 @@ QString Shorten(QString const& text)
 DeviationTextResult DeviationText::ReadFile(QString const& path, DeviationTextLayout const& layout)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, "Unable to open file: " + path + ". " + file.errorString()};
+    // A device or a pipe might never end.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return {{}, "Unable to open file: " + path};
     }
     return Read(file, layout);
 }

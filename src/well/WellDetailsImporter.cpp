@@ -4,6 +4,7 @@
 #include "well/WellDetailsImporter.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 
@@ -31,9 +32,9 @@ QList<QJsonObject> GetObjects(QJsonArray const& array)
 WellDetailsImporter::WellDetailsImporter(QString const& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         qWarning("Couldn't open save file.");
-        error_ = "Unable to open file: " + path + ". " + file.errorString();
+        error_ = "Unable to open file: " + path;
         Parse("{}");
         return;
     }

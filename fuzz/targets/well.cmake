@@ -1,0 +1,2 @@
+quorrel_fuzz(WellJson quorrel_well_values)
+quorrel_fuzz(DeviationText quorrel_well_values)

@@ -115,6 +115,11 @@ BaseCombinedViewWidget* ColumnWindow::CreateDepthView(QString const& name)
 
 CombinedDataViewWidget* ColumnWindow::CreateDataView_Public(QString const& name, bool automatic)
 {
+    return CreateDataView(name, automatic);
+}
+
+CombinedDataViewWidget* ColumnWindow::CreateDataView(QString const& name, bool automatic)
+{
     return scroll_area_->CreateDataView(name, context_, this, automatic);
 }
 
@@ -170,16 +175,6 @@ UserDataView* ColumnWindow::FindUserDataView(QString const& name)
 UserDataView const* ColumnWindow::FindUserDataView(QString const& name) const
 {
     for (UserDataView const* view : FindAllUserDataViewWidgets()) {
-        if (view->GetName() == name) {
-            return view;
-        }
-    }
-    return nullptr;
-}
-
-AutomaticDataView* ColumnWindow::FindAutomaticDataView(QString const& name) const
-{
-    for (AutomaticDataView* view : FindAllAutomaticDataViews()) {
         if (view->GetName() == name) {
             return view;
         }

@@ -14,6 +14,7 @@
 #include "model/DataChannelIdentifier.h"
 #include "well/Zone.h"
 
+#include <QHash>
 #include <QList>
 #include <QPen>
 #include <QString>
@@ -264,12 +265,19 @@ private:
     [[nodiscard]] std::optional<DataChannelIdentifier>
     ResolveIdentifier(DataChannelIdentifier const* identifier) const;
     [[nodiscard]] double ConvertYValueToDepth_metric(int y) const;
-    [[nodiscard]] AutomaticDataView* FindAutomaticDataView(QString const& name) const;
+    CombinedDataViewWidget* CreateDataView(QString const& name, bool automatic);
+    AutomaticDataView* CreateAutomaticDataView_AddDepthDataByMnem(QString const& name,
+                                                                  DepthLogPass const* pass);
+    AutomaticDataView* CreateAutomaticDataView_AddTimeDataByMnem(QString const& view_name,
+                                                                 QString const& mnemonic, TimeLog const* log);
+    [[nodiscard]] QHash<QString, AutomaticDataView*> AutomaticDataViewsByName() const;
     [[nodiscard]] BaseDataView* FindDataViewForChannels(QString const& name);
     void ConnectComponentClicks(BaseCombinedViewWidget* pair);
     void PrepareForFirstData();
     void OnChannelAdded(BaseDataView const* view);
     void RemovePair(BaseCombinedViewWidget* pair);
+    /// Runs `change` and evaluates what the views that it shows and hides report once, at its end.
+    void ChangeVisibility(std::function<void()> const& change);
     [[nodiscard]] QWidget* DialogParent() const;
 
     std::unique_ptr<ScrollAreaWrapper> scroll_area_;
@@ -281,5 +289,6 @@ private:
     CurrentDepthLogPass depth_log_pass_;
     UndoRedo undo_redo_;
     bool override_automatic_interval_ = false;
+    bool is_changing_visibility_ = false;
     AskAnchor ask_anchor_;
 };

@@ -49,13 +49,23 @@ void ColumnWindow::PrepareForFirstData()
 void ColumnWindow::UpdateAutomaticDataViews(DepthLogPass const* pass)
 {
     PrepareForFirstData();
+    QHash<QString, AutomaticDataView*> views = AutomaticDataViewsByName();
     for (QString const& name : pass->GetDataChannelNames()) {
-        BaseDataView* view = FindAutomaticDataView(name);
-        if (!view) {
-            view = CreateDataView_Public(name, true)->GetBaseDataView();
+        AutomaticDataView*& view = views[name];
+        if (view) {
+            AddDepthDataChannelToDataView(view, pass->GetDataChannel(pass->FindDataChannelByMnem(name)));
+        } else {
+            view = CreateAutomaticDataView_AddDepthDataByMnem(name, pass);
         }
-        AddDepthDataChannelToDataView(view, pass->GetDataChannel(pass->FindDataChannelByMnem(name)));
     }
+}
+
+AutomaticDataView* ColumnWindow::CreateAutomaticDataView_AddDepthDataByMnem(QString const& name,
+                                                                            DepthLogPass const* pass)
+{
+    auto* view = qobject_cast<AutomaticDataView*>(CreateDataView(name, true)->GetBaseDataView());
+    AddDepthDataChannelToDataView(view, pass->GetDataChannel(pass->FindDataChannelByMnem(name)));
+    return view;
 }
 
 void ColumnWindow::UpdateAutomaticDataViews(std::weak_ptr<TimeLog const> const& time_log)
@@ -65,14 +75,34 @@ void ColumnWindow::UpdateAutomaticDataViews(std::weak_ptr<TimeLog const> const& 
         return;
     }
     PrepareForFirstData();
+    QHash<QString, AutomaticDataView*> views = AutomaticDataViewsByName();
     for (QString const& name : log->GetDataChannelNames()) {
         QString const view_name = name.chopped(CheckForTimeLogPostFix(name).size());
-        BaseDataView* view = FindAutomaticDataView(view_name);
-        if (!view) {
-            view = CreateDataView_Public(view_name, true)->GetBaseDataView();
+        AutomaticDataView*& view = views[view_name];
+        if (view) {
+            AddTimeLogDataChannelToDataView(view, log->GetDataChannel(log->FindDataChannelByMnem(name)));
+        } else {
+            view = CreateAutomaticDataView_AddTimeDataByMnem(view_name, name, log.get());
         }
-        AddTimeLogDataChannelToDataView(view, log->GetDataChannel(log->FindDataChannelByMnem(name)));
     }
+}
+
+AutomaticDataView* ColumnWindow::CreateAutomaticDataView_AddTimeDataByMnem(QString const& view_name,
+                                                                           QString const& mnemonic,
+                                                                           TimeLog const* log)
+{
+    auto* view = qobject_cast<AutomaticDataView*>(CreateDataView(view_name, true)->GetBaseDataView());
+    AddTimeLogDataChannelToDataView(view, log->GetDataChannel(log->FindDataChannelByMnem(mnemonic)));
+    return view;
+}
+
+QHash<QString, AutomaticDataView*> ColumnWindow::AutomaticDataViewsByName() const
+{
+    QHash<QString, AutomaticDataView*> views;
+    for (AutomaticDataView* view : FindAllAutomaticDataViews()) {
+        views.insert(view->GetName(), view);
+    }
+    return views;
 }
 
 QString ColumnWindow::CheckForTimeLogPostFix(QString const& name)
@@ -116,7 +146,7 @@ BaseDataView* ColumnWindow::FindDataViewForChannels(QString const& name)
     if (UserDataView* view = FindUserDataView(name)) {
         return view;
     }
-    return FindAutomaticDataView(name);
+    return AutomaticDataViewsByName().value(name);
 }
 
 void ColumnWindow::OnChannelAdded(BaseDataView const* view)
@@ -132,17 +162,18 @@ void ColumnWindow::OnChannelAdded(BaseDataView const* view)
 
 void ColumnWindow::DeleteDependencies(DataChannelIdentifier const& identifier)
 {
-    for (BaseCombinedViewWidget* pair : FindAllCombinedViewWidgets()) {
-        auto* view = qobject_cast<BaseDataView*>(pair->GetBaseViewWidget());
-        if (!view || view->IsEmpty()) {
-            continue;
+    ChangeVisibility([&] {
+        for (BaseCombinedViewWidget* pair : FindAllCombinedViewWidgets()) {
+            auto* view = qobject_cast<BaseDataView*>(pair->GetBaseViewWidget());
+            if (!view || view->IsEmpty()) {
+                continue;
+            }
+            bool const has_data = view->DeleteDependencies(identifier);
+            if (!has_data && view->objectName() == AutomaticDataView::OBJECT_NAME_) {
+                RemovePair(pair);
+            }
         }
-        bool const has_data = view->DeleteDependencies(identifier);
-        if (!has_data && view->objectName() == AutomaticDataView::OBJECT_NAME_) {
-            RemovePair(pair);
-        }
-    }
-    OnVisibleWidgetsChanged();
+    });
 }
 
 QStringList ColumnWindow::ContainsMFCData(DepthLogPass const* pass) const

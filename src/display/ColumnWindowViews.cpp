@@ -13,18 +13,17 @@
 #include "display/ViewObjectNames.h"
 #include "display/ViewOrder.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <utility>
 
 // Which views are shown, in which order and how large.
 
 void ColumnWindow::UpdateVisibleViewWidgets(QList<QString> const& names)
 {
     QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
-    for (BaseCombinedViewWidget* pair : pairs) {
-        if (!names.contains(pair->GetBaseViewWidgetName())) {
-            pair->hide();
-        }
-    }
+    QSet<QString> const shown(names.begin(), names.end());
     QList<int> const old_sizes = scroll_area_->GetSplitterSizes();
     std::vector<Quorrel::ViewSlot> slots_in_order;
     for (int i = 0; i < pairs.size(); ++i) {
@@ -36,14 +35,24 @@ void ColumnWindow::UpdateVisibleViewWidgets(QList<QString> const& names)
     }
     slots_in_order = Quorrel::ArrangeViews(std::move(slots_in_order), names, scroll_area_->GetWidth());
 
-    QList<int> sizes;
-    for (Quorrel::ViewSlot const& slot : slots_in_order) {
-        BaseCombinedViewWidget* pair = pairs[slot.index];
-        scroll_area_->InsertSplitterWidget(static_cast<int>(sizes.size()), pair);
-        pair->setVisible(names.contains(slot.name));
-        sizes.append(slot.size);
-    }
-    scroll_area_->SetSplitterSizes(sizes);
+    ChangeVisibility([&] {
+        for (BaseCombinedViewWidget* pair : pairs) {
+            if (!shown.contains(pair->GetBaseViewWidgetName())) {
+                pair->hide();
+            }
+        }
+        QList<int> sizes;
+        for (Quorrel::ViewSlot const& slot : slots_in_order) {
+            BaseCombinedViewWidget* pair = pairs[slot.index];
+            int const index = static_cast<int>(sizes.size());
+            if (scroll_area_->GetSplitterWidget(index) != pair) {
+                scroll_area_->InsertSplitterWidget(index, pair);
+            }
+            pair->setVisible(shown.contains(slot.name));
+            sizes.append(slot.size);
+        }
+        scroll_area_->SetSplitterSizes(sizes);
+    });
 }
 
 void ColumnWindow::SortViewWidgets(QList<QString> const& names)
@@ -58,10 +67,12 @@ void ColumnWindow::SortViewWidgets(QList<QString> const& names)
 void ColumnWindow::SetSplitterSizes(QList<int> const& sizes)
 {
     QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
-    for (int i = 0; i < std::min(pairs.size(), sizes.size()); ++i) {
-        pairs[i]->setVisible(sizes[i] != 0);
-    }
-    scroll_area_->SetSplitterSizes(sizes);
+    ChangeVisibility([&] {
+        for (int i = 0; i < std::min(pairs.size(), sizes.size()); ++i) {
+            pairs[i]->setVisible(sizes[i] != 0);
+        }
+        scroll_area_->SetSplitterSizes(sizes);
+    });
 }
 
 void ColumnWindow::DisplayDefaultViews()
@@ -86,15 +97,28 @@ void ColumnWindow::DisplayFirstCVWs()
         }
         names.append(pair->GetBaseViewWidgetName());
     }
-    for (int const index : Quorrel::ChooseFirstViews(names)) {
-        pairs[index]->show();
+    ChangeVisibility([&] {
+        for (int const index : Quorrel::ChooseFirstViews(names)) {
+            pairs[index]->show();
+        }
+    });
+}
+
+void ColumnWindow::ChangeVisibility(std::function<void()> const& change)
+{
+    bool const is_outermost = !std::exchange(is_changing_visibility_, true);
+    change();
+    if (is_outermost) {
+        is_changing_visibility_ = false;
+        OnVisibleWidgetsChanged();
     }
-    // Views of a column that is not on screen report nothing when they are shown.
-    OnVisibleWidgetsChanged();
 }
 
 void ColumnWindow::OnVisibleWidgetsChanged()
 {
+    if (is_changing_visibility_) {
+        return;
+    }
     OnScaleHeightChanged();
     OnVisibleWidgetDataChanged();
 }
@@ -130,6 +154,9 @@ void ColumnWindow::OnMoveViewWidget(QWidget* moved, QPointF const& global)
 
 void ColumnWindow::RemovePair(BaseCombinedViewWidget* pair)
 {
+    pair->disconnect(this);
+    pair->GetBaseViewWidget()->disconnect(this);
+    pair->GetBaseScaleView()->disconnect(this);
     pair->hide();
     pair->setParent(nullptr);
     pair->deleteLater();

@@ -65,7 +65,7 @@ public:
                              std::to_string(1000.0 + 0.1 * static_cast<double>(rows - 1)) +
                              " :\nSTEP.M 0.1 :\nNULL. -999.25 :\n~Curve\nDEPT.M :\n";
         for (std::size_t column = 0; column < COLUMNS; ++column) {
-            header += "C" + std::to_string(column) + ". :\n";
+            header += std::string("C").append(std::to_string(column)) + ". :\n";
         }
         path = folder_.filePath("generated.las").toStdString();
         std::ofstream stream(path, std::ios::binary);

@@ -275,7 +275,8 @@ TEST(LASFile, RowsMayBeLongerThanTheBufferedMargin)
     for (int row = 0; row < 12; ++row) {
         text += std::to_string(row);
         for (int column = 0; column < columns; ++column) {
-            text += " " + std::to_string(100'000 + row * 10'000 + column % 10'000);
+            text += ' ';
+            text += std::to_string(100'000 + row * 10'000 + column % 10'000);
         }
         text += "\n#" + std::string(9000, ' ') + "\n";
     }

@@ -73,7 +73,7 @@ TEST(LasMemory, ARegularFileTakesLittleMoreThanItsNumbers)
         std::string text = "~V\nVERS. 2.0 :\n~W\nSTRT.M 0 :\nSTOP.M " + std::to_string(rows - 1) +
                            " :\nSTEP.M " + step + " :\n~C\nDEPT.M :\n";
         for (std::size_t column = 0; column < columns; ++column) {
-            text += "C" + std::to_string(column) + ". :\n";
+            text += std::string("C").append(std::to_string(column)) + ". :\n";
         }
         text += "~A\n";
         for (std::size_t row = 0; row < rows; ++row) {

@@ -159,7 +159,7 @@ private:
         std::uint64_t chunk = 0;
         std::memcpy(&chunk, digits, sizeof(chunk));
         // The digits move to the end; what stood behind them falls off and zeros come in front. Shifting by
-        // 64 is not defined, hence the two steps.
+        // 64 is not defined.
         chunk = count == 0 ? 0 : (chunk ^ 0x3030303030303030U) << (64U - 8U * count);
         return static_cast<std::int32_t>(EightDigits(chunk));
     }
@@ -170,7 +170,7 @@ private:
         if constexpr (std::endian::native == std::endian::little) {
             std::uint64_t value = 0;
             for (;;) {
-                // The byte order puts the first digit lowest. After the subtraction a byte that is no digit
+                // The byte order puts the first digit lowest. After the XOR a byte that is no digit
                 // is the first one above 9, and all digits before it are untouched by carries.
                 std::uint64_t chunk = 0;
                 std::memcpy(&chunk, cursor, sizeof(chunk));

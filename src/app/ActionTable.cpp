@@ -58,7 +58,7 @@ std::span<ActionDefinition const> ActionTable()
         ActionDefinition{Id::DataBrowser, "&DataBrowser", "DataBrowser.svg", no_key, false, "", Menu::View, Bar::Survey, On::NotYet, true},
         ActionDefinition{Id::DataViewSelector, "Change Visible Dataviews", "Change Visible Dataviews.svg", no_key, false, "Open DataView Selector", Menu::View, Bar::Survey, On::NotYet, false},
         ActionDefinition{Id::ScreensManager, "&Screens Manager", "Screens Manager.svg", no_key, false, "", Menu::View, Bar::Screens, On::NotYet, false},
-        ActionDefinition{Id::ShowVerticalSection, "&Show Vertical Section", "Show Vertical Section.svg", no_key, false, "", Menu::View, Bar::Well, On::NotYet, true},
+        ActionDefinition{Id::ShowVerticalSection, "&Show Vertical Section", "Show Vertical Section.svg", no_key, false, "", Menu::View, Bar::Well, On::Always, true},
         ActionDefinition{Id::Show3dTrajectory, "&Show 3D Well Trajectory", "Show 3D Well Trajectory.svg", no_key, false, "", Menu::View, Bar::Well, On::NotYet, false},
         ActionDefinition{Id::MfcMode, "&MFC Mode [M]", "MFC Mode.svg", QKeySequence(Qt::Key_M), true, "", Menu::View, Bar::Caliper, On::CaliperView, true},
         ActionDefinition{Id::MfcColorMap, "&MFC Color Map [C]", "MFC Color Map.svg", QKeySequence(Qt::Key_C), true, "", Menu::View, Bar::Caliper, On::CaliperView, false},

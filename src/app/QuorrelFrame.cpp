@@ -16,8 +16,10 @@
 #include "app/kit/SettingsSingleton.h"
 #include "display/ColumnWindow.h"
 #include "display/DisplayedIntervalDialog.h"
-#include "display/ViewFactory.h"
+#include "display/TimeCurveOverlay.h"
+#include "display/XYChart.h"
 #include "model/LogDepthQuestion.h"
+#include "well/WellViewFactory.h"
 
 #include <QComboBox>
 #include <QFileInfo>
@@ -35,8 +37,24 @@
 
 #include <cmath>
 
+namespace {
+/// A window of its own, which deletes itself.
+void OpenTimeLogChart(TimeLogChart const& data, QWidget* parent)
+{
+    auto* chart = new XYChart(data.x, data.y, parent);
+    chart->setWindowFlag(Qt::Window);
+    chart->setAttribute(Qt::WA_DeleteOnClose);
+    chart->setWindowTitle(data.window_title);
+    chart->SetChartTitle(data.title);
+    chart->SetAxesTitles(data.x_axis_title, data.y_axis_title);
+    chart->show();
+}
+} // namespace
+
 QuorrelFrame::QuorrelFrame(QWidget* parent)
-    : QMainWindow(parent), recent_files_(std::make_unique<RecentFiles>())
+    : QMainWindow(parent),
+      recent_files_(std::make_unique<RecentFiles>()),
+      view_factory_(std::make_unique<WellViewFactory>())
 {
     color_scheme_ = new ColorScheme(this);
     connect(color_scheme_, &ColorScheme::Changed_Signal, this, &QuorrelFrame::SetActionIcons);
@@ -46,6 +64,8 @@ QuorrelFrame::QuorrelFrame(QWidget* parent)
                                                      Qt::WindowFlags(), 1);
         return accepted ? std::optional(depth) : std::nullopt;
     });
+
+    TimeCurveOverlay::SetChartOpener(&OpenTimeLogChart);
 
     CreateActions();
     CreateMenus();
@@ -78,6 +98,7 @@ QuorrelFrame::~QuorrelFrame()
     settings.SetFrameGeometry(saveGeometry());
     settings.SetIsMaximized(isMaximized());
     LogDepthQuestion::Install({});
+    TimeCurveOverlay::SetChartOpener({});
     // The columns' last signals would find members gone.
     for (auto const& [key, column] : column_windows_.GetColumnWindows()) {
         column->disconnect(this);
@@ -108,6 +129,7 @@ void QuorrelFrame::CreateActions()
     on(ActionId::ResetZooms, &QuorrelFrame::OnZoomHome);
     on(ActionId::AdjustScales, &QuorrelFrame::OnAdjustScalesToVisibleDepth);
     on(ActionId::EditSurveyNotes, &QuorrelFrame::OnEditSurveyText);
+    on(ActionId::ShowVerticalSection, &QuorrelFrame::OnShowVerticalSection);
     on(ActionId::About, &QuorrelFrame::OnAbout);
     on(ActionId::AboutQt, &QuorrelFrame::OnAbout);
     on(ActionId::Homepage, &QuorrelFrame::OnWebpage);
@@ -457,10 +479,14 @@ void QuorrelFrame::OnHorizontalZoomEnd()
 
 void QuorrelFrame::OnSettings()
 {
+    bool const was_metric = SettingsSingleton::Instance().IsMetricDepth();
     SettingsDialog dialog(this);
     connect(&dialog, &SettingsDialog::UpdateColumnWindow_Signal, this,
             &QuorrelFrame::RedrawCurrentColumnWindow);
     dialog.exec();
+    if (SettingsSingleton::Instance().IsMetricDepth() != was_metric) {
+        UpdateAllDeviationDataViews();
+    }
     InitializeSeparatorAction();
     InitializeDepthUnitAction();
     RedrawCurrentColumnWindow();
@@ -471,6 +497,7 @@ void QuorrelFrame::OnIsMetricDepthToggled(bool checked)
 {
     SettingsSingleton::Instance().SetMetricDepth(checked);
     InitializeDepthUnitAction();
+    UpdateAllDeviationDataViews();
     if (current_column_window_) {
         current_column_window_->ForceRedraw();
         emit current_column_window_->DepthUnitChanged_Signal();

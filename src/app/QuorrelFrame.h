@@ -32,7 +32,8 @@ struct FrameState;
 /// go through the forwarding functions of ProjectAccess; each write marks the project as modified.
 ///
 /// Its slots stand in several sources by topic: QuorrelFrame.cpp (construction, tools, title),
-/// QuorrelFrameSurveys.cpp, QuorrelFramePasses.cpp, QuorrelFrameImport.cpp and QuorrelFrameUpdates.cpp.
+/// QuorrelFrameSurveys.cpp, QuorrelFramePasses.cpp, QuorrelFrameImport.cpp, QuorrelFrameWell.cpp and
+/// QuorrelFrameUpdates.cpp.
 class QuorrelFrame : public QMainWindow, public ProjectAccess
 {
     Q_OBJECT
@@ -58,6 +59,11 @@ public:
     void DeleteLogPass(LogPassIdentifier const& identifier);
     void DeleteStorageDataChannel(DataChannelIdentifier const& identifier);
     void RenameSurvey(KeyType key, QString const& name);
+
+    /// After a change of the well's data: the tracks that show them are made anew in every column.
+    void RedrawAllColumnWindows();
+    /// The deviation tracks of all columns show true vertical depth in the depth unit of the settings.
+    void UpdateAllDeviationDataViews();
 
     /// The required entries are there, otherwise "Undefined MNEM: " is shown; tells of a file resampled for
     /// STEP 0.
@@ -117,6 +123,7 @@ public slots:
     void OnUpdateStatusBar(float depth, QString const& text);
     void OnDataContainerWrite();
 
+    void OnShowVerticalSection();
     void OnAbout();
     void OnWebpage();
     void OnCheckForNewVersion_MenuAction();

@@ -107,9 +107,25 @@ BaseCombinedViewWidget* ScrollAreaWrapper::AppendFactoryPair(BaseCombinedViewWid
 {
     if (pair) {
         pair->ConnectSignalsSlots(column, pair->GetBaseViewWidget());
+        ConnectDataView(qobject_cast<CombinedDataViewWidget*>(pair), column);
         AppendPair(pair, name);
     }
     return pair;
+}
+
+void ScrollAreaWrapper::ConnectDataView(CombinedDataViewWidget const* pair, ColumnSlots const* column)
+{
+    if (!pair || !column) {
+        return;
+    }
+    BaseDataView const* view = pair->GetBaseDataView();
+    connect(view, &BaseDataView::PushUndoObject_Signal, column, &ColumnSlots::PushUndo);
+    connect(view, &BaseDataView::ShiftCompleted_Signal, column, &ColumnSlots::OnShiftCompleted);
+    connect(view, &BaseDataView::DepthStretchCompleted_Signal, column, &ColumnSlots::OnDepthStretchCompleted);
+    connect(view, &BaseDataView::DepthStretchStarted_Signal, column, &ColumnSlots::OnDepthStretchStarted);
+    connect(pair, &CombinedDataViewWidget::UndoBatchStarted_Signal, column, &ColumnSlots::OnUndoBatchStarted);
+    connect(pair, &CombinedDataViewWidget::UndoBatchCompleted_Signal, column,
+            &ColumnSlots::OnUndoBatchCompleted);
 }
 
 void ScrollAreaWrapper::AppendPair(BaseCombinedViewWidget* pair, QString const& name)

@@ -112,6 +112,8 @@ signals:
 private:
     BaseCombinedViewWidget* AppendFactoryPair(BaseCombinedViewWidget* pair, QString const& name,
                                               ColumnSlots* column);
+    /// The undo entries and depth corrections of a data view that the factory made.
+    static void ConnectDataView(CombinedDataViewWidget const* pair, ColumnSlots const* column);
     void AppendPair(BaseCombinedViewWidget* pair, QString const& name);
 
     QPointer<MyAbstractScrollArea> scroll_area_;

@@ -35,7 +35,8 @@ QStringList Sorted(QStringList texts)
 
 QStringList const ALWAYS{
     "&New Survey",       "New Project", "E&xit",     "&Settings", "&Tracking Mode [T]", "&Toggle Depth Unit",
-    "&Toggle Separator", "&About",      "About &Qt", "Homepage",  "Check for &updates"};
+    "&Toggle Separator", "&About",      "About &Qt", "Homepage",  "Check for &updates",
+    "&Show Vertical Section"};
 QStringList const WITH_SURVEY{"Add LAS File to Survey",
                               "&Edit Survey Notes",
                               "Set Display Interval",
@@ -55,7 +56,6 @@ std::set<QString> const NOT_YET{"&Convert DLIS to LAS",
                                 "&Save Project",
                                 "Well Details Window",
                                 "Import Well Details From JSON",
-                                "&Show Vertical Section",
                                 "&Screens Manager",
                                 "Calculate Well Volumes",
                                 "&DataBrowser",

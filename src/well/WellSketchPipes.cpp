@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+// Pipe strings of the sketch: walls, joints, hangers, shoes and their cement.
+
+#include "well/WellSketchRenderer.h"
+
+#include "display/DepthGeometry.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+constexpr double HANGER_HEIGHT = 20;    ///< pixels, as is a liner's second hanger above its foot
+constexpr double HANGER_PEN = 3;        ///< width
+constexpr double SHOE_SHARE = 0.05;     ///< of the window's height
+constexpr double OUTLINE = 1;           ///< width of the lines around pipes
+constexpr double SHOE_WIDTH_SHARE = .4; ///< of its height
+
+/// A wall or line whose edges lie on whole pixels, so that it is never blurred and neighbours meet.
+void FillBetween(QPainter& painter, double x1, double x2, double y1, double y2, QColor const& color)
+{
+    int const left = Quorrel::RoundToInt(std::min(x1, x2));
+    int const top = Quorrel::RoundToInt(y1);
+    int const width = Quorrel::RoundToInt(std::max(x1, x2)) - left;
+    int const height = Quorrel::RoundToInt(y2) - top;
+    if (width > 0 && height > 0) {
+        painter.fillRect(left, top, width, height, color);
+    }
+}
+} // namespace
+
+void WellSketchRenderer::DrawPipeString(QPainter& painter, PipeString const& string, Interval const& interval,
+                                        double dpi_x, ColorScheme const& scheme)
+{
+    if (string.size() == 0) {
+        return;
+    }
+    DrawPipeWalls(painter, string, interval, scheme);
+    if (string.GetIsTubing()) {
+        return;
+    }
+    DrawCasingEnds(painter, string, interval, scheme);
+    if (string.ContainsOuterCementData()) {
+        DrawOuterCasingCement(painter, string, interval, dpi_x, scheme);
+    }
+}
+
+void WellSketchRenderer::DrawPipeWalls(QPainter& painter, PipeString const& string, Interval const& interval,
+                                       ColorScheme const& scheme)
+{
+    double const c = Center();
+    QString const prefix = string.size() > 1 ? QStringLiteral("[%1] -").arg(string.GetName()) : QString();
+    CalculatedPipeComponent const* previous = nullptr;
+    for (CalculatedPipeComponent const& component : string.GetComponents()) {
+        double const outer = Pixels(component.GetNonNullOd()) * 0.5;
+        double const inner = std::clamp(Pixels(component.GetNonNullId()) * 0.5, 0.0, std::max(outer, 0.0));
+        Interval const& depth = component.GetDepth();
+        if (!(outer > 0) || !std::isfinite(outer) || !std::isfinite(depth.lower) ||
+            !std::isfinite(depth.upper)) {
+            previous = nullptr;
+            continue;
+        }
+        double const y1 = Row(depth.lower, interval);
+        double const y2 = Row(depth.upper, interval);
+        if (y2 < 0 || y1 >= height_) {
+            previous = &component;
+            continue;
+        }
+        if (string.GetIsTubing()) {
+            FillBetween(painter, c - inner, c + inner, y1, y2, scheme.tubing_bore);
+        }
+        // Outlines lie within the wall: its fill and its lines have the same edges.
+        OnBothSides([&](double side) {
+            FillBetween(painter, c + side * inner, c + side * outer, y1, y2, scheme.steel);
+            FillBetween(painter, c + side * inner, c + side * (inner + OUTLINE), y1, y2, scheme.lines);
+            FillBetween(painter, c + side * (outer - OUTLINE), c + side * outer, y1, y2, scheme.lines);
+            if (previous != nullptr) {
+                double const previous_outer = Pixels(previous->GetNonNullOd()) * 0.5;
+                double const previous_inner = std::max(Pixels(previous->GetNonNullId()) * 0.5, 0.0);
+                if (previous_outer != outer) {
+                    FillBetween(painter, c + side * previous_outer, c + side * outer, y1, y1 + OUTLINE,
+                                scheme.lines);
+                }
+                if (previous_inner != inner) {
+                    FillBetween(painter, c + side * previous_inner, c + side * inner, y1, y1 + OUTLINE,
+                                scheme.lines);
+                }
+            }
+        });
+        if (&component == &string.GetComponents().back()) {
+            if (string.GetIsTubing()) {
+                FillBetween(painter, c - outer, c + outer, y2, y2 + OUTLINE, scheme.lines);
+            } else {
+                OnBothSides([&](double side) {
+                    FillBetween(painter, c + side * inner, c + side * outer, y2, y2 + OUTLINE, scheme.lines);
+                });
+            }
+        }
+        CreatePipeBoundingBox(prefix, component, c, inner, outer, y1, y2);
+        previous = &component;
+    }
+}
+
+void WellSketchRenderer::DrawCasingEnds(QPainter& painter, PipeString const& string, Interval const& interval,
+                                        ColorScheme const& scheme)
+{
+    Interval const& depth = string.GetDepthInterval();
+    if (!std::isfinite(depth.lower) || !std::isfinite(depth.upper)) {
+        return;
+    }
+    double const first_outer = Pixels(string.GetComponents().front().GetNonNullOd()) * 0.5;
+    double const last_outer = Pixels(string.GetComponents().back().GetNonNullOd()) * 0.5;
+    PipeString const* const outside = pipe_strings_.FindOutsidePipeAtDepth(string, depth.lower);
+    CalculatedPipeComponent const* const at_top =
+        outside != nullptr ? outside->FindComponentAtDepth(depth.lower) : nullptr;
+    if (at_top != nullptr) {
+        DrawCasingHanger(painter, Center(), first_outer, Pixels(at_top->GetNonNullId()) * 0.5,
+                         Row(depth.lower, interval), scheme);
+    }
+    if (outside != nullptr && depth.IsInside(outside->GetDepthInterval())) {
+        if (auto const* const at_foot = outside->FindComponentAtDepth(depth.upper)) {
+            DrawCasingHanger(painter, Center(), last_outer, Pixels(at_foot->GetNonNullId()) * 0.5,
+                             Row(depth.upper, interval) - HANGER_HEIGHT, scheme);
+        }
+        return;
+    }
+    DrawCasingShoe(painter, Center(), last_outer, Row(depth.upper, interval), scheme);
+}
+
+void WellSketchRenderer::DrawCasingHanger(QPainter& painter, double center, double outer_radius,
+                                          double inner_radius, double y, ColorScheme const& scheme)
+{
+    if (y > height_ || y + HANGER_HEIGHT < 0) {
+        return;
+    }
+    painter.save();
+    painter.setPen(QPen(scheme.lines, HANGER_PEN, Qt::SolidLine, Qt::RoundCap));
+    painter.setBrush(Qt::NoBrush);
+    OnBothSides([&](double side) {
+        QRectF const area = QRectF(QPointF(center + side * outer_radius, y),
+                                   QPointF(center + side * inner_radius, y + HANGER_HEIGHT))
+                                .normalized();
+        painter.fillRect(area, Qt::blue);
+        // In a narrow gap the outline shrinks to a stroke instead of turning inside out.
+        double const inset = std::min(HANGER_PEN / 2, area.width() / 2);
+        painter.drawRect(area.adjusted(inset, HANGER_PEN / 2, -inset, -HANGER_PEN / 2));
+    });
+    painter.restore();
+}
+
+void WellSketchRenderer::DrawCasingShoe(QPainter& painter, double center, double outer_radius, double y,
+                                        ColorScheme const& scheme)
+{
+    double const size = Quorrel::TruncateToInt(SHOE_SHARE * height_);
+    if (y - size > height_ || y < 0) {
+        return;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(scheme.lines);
+    OnBothSides([&](double side) {
+        double const wall = center + side * outer_radius;
+        painter.drawPolygon(QPolygonF({QPointF(wall, y - size), QPointF(wall, y + OUTLINE),
+                                       QPointF(wall + side * size * SHOE_WIDTH_SHARE, y + OUTLINE)}));
+    });
+    painter.restore();
+}
+
+void WellSketchRenderer::DrawOuterCasingCement(QPainter& painter, PipeString const& string,
+                                               Interval const& interval, double dpi_x,
+                                               ColorScheme const& scheme)
+{
+    auto [description, depth] = string.GetOuterCementData();
+    depth.Sort();
+    DrawAreaBetweenPipeStringAndOutside(painter, string, interval, description, depth, dpi_x,
+                                        QBrush(scheme.cement, Qt::Dense5Pattern));
+}

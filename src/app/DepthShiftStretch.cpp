@@ -11,10 +11,21 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <cmath>
+#include <optional>
+
 namespace {
 constexpr int SHIFT_DECIMALS = 2;
 constexpr int STRETCH_DECIMALS = 4;
 constexpr int MAX_DECIMALS = 9;
+
+/// Nothing for text that is no finite number: the locale reads "inf" and "nan" too, which no depth survives.
+std::optional<float> ToNumber(QString const& text)
+{
+    bool ok = false;
+    float const value = Quorrel::StringToFloatType(text, &ok);
+    return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
 
 /// At least `decimals`, and more where the text would otherwise read back as another number: opening and
 /// accepting the form must not move the depths.
@@ -70,16 +81,13 @@ void DepthShiftStretch::Display(float shift, float stretch)
 
 float DepthShiftStretch::GetDepthShift_metric() const
 {
-    bool ok = false;
-    float const shift = Quorrel::StringToFloatType(shift_edit_->text(), &ok);
-    return ok ? Quorrel::SettingsDepthToMetricDepth(shift) : shift_;
+    std::optional<float> const shift = ToNumber(shift_edit_->text());
+    return shift ? Quorrel::SettingsDepthToMetricDepth(*shift) : shift_;
 }
 
 float DepthShiftStretch::GetDepthStretchFactor() const
 {
-    bool ok = false;
-    float const stretch = Quorrel::StringToFloatType(stretch_edit_->text(), &ok);
-    return ok ? stretch : stretch_;
+    return ToNumber(stretch_edit_->text()).value_or(stretch_);
 }
 
 void DepthShiftStretch::OnReset()

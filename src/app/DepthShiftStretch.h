@@ -7,8 +7,8 @@
 
 class QLineEdit;
 
-/// The form for typing the depth correction of a log pass or channel. Text that is no number counts as the
-/// value the form was made with.
+/// The form for typing the depth correction of a log pass or channel. Text that is no finite number counts
+/// as the value the form was made with.
 class DepthShiftStretch : public QWidget
 {
     Q_OBJECT

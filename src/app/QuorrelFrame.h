@@ -155,6 +155,8 @@ private:
     /// Sets the pass combo box from the model, keeping the selected pass where it is still there.
     void UpdatePassComboBox();
     void UpdatePassToolbar();
+    /// The storage channel, or the log pass, whose depths a correction is for is still there.
+    [[nodiscard]] bool HasDepth(DataChannelIdentifier const& identifier) const;
     void SetCurrentPassProperties(bool LogPassProperties::*flag, bool on);
     void UpdateMfcMenuBar();
     [[nodiscard]] FrameState GetState() const;

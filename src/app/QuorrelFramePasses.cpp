@@ -95,8 +95,19 @@ void QuorrelFrame::OnHighLightPassToggled(bool on)
     SetCurrentPassProperties(&LogPassProperties::highlighted, on);
 }
 
+bool QuorrelFrame::HasDepth(DataChannelIdentifier const& identifier) const
+{
+    auto const key = identifier.GetSurveyKey();
+    return identifier.GetHash() == Survey::DATA_STORAGE_NAME_IDENTIFIER
+               ? GetStorageKeys(key).contains(identifier.index)
+               : GetDepthLogIdentifierHashes(key).contains(identifier.GetHash());
+}
+
 void QuorrelFrame::OnApplyShift(DataChannelIdentifier const& identifier, float shift)
 {
+    if (!HasDepth(identifier)) {
+        return; // deleted since the command was recorded
+    }
     if (identifier.index == -1) {
         ApplyShift(identifier.GetLogPassIdentifier(), shift);
     } else {
@@ -107,8 +118,12 @@ void QuorrelFrame::OnApplyShift(DataChannelIdentifier const& identifier, float s
 void QuorrelFrame::OnApplyStretch(DataChannelIdentifier const& identifier, float start_drag_depth,
                                   float drag_depth, float anchor_depth)
 {
-    if (start_drag_depth == anchor_depth) {
-        return; // the factor would be infinite
+    // On the anchor the factor is 0 or infinite, across it negative: no length would be left, or the depths
+    // would run upwards. The mirrored drag of an undo gets there when the stretch was by 2 or more.
+    bool const keeps_side = (drag_depth > anchor_depth && start_drag_depth > anchor_depth) ||
+                            (drag_depth < anchor_depth && start_drag_depth < anchor_depth);
+    if (!keeps_side || !HasDepth(identifier)) {
+        return;
     }
     if (identifier.index == -1) {
         ApplyStretch(identifier.GetLogPassIdentifier(), start_drag_depth, drag_depth, anchor_depth);

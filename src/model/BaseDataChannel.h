@@ -39,8 +39,9 @@ public:
     [[nodiscard]] DataValueType at(std::size_t index) const { return samples_->at(index); }
     [[nodiscard]] const_iterator begin() const { return samples_->cbegin(); }
     [[nodiscard]] const_iterator end() const { return samples_->cend(); }
-    [[nodiscard]] DataValueType front() const { return samples_->front(); }
-    [[nodiscard]] DataValueType back() const { return samples_->back(); }
+    /// @throws std::out_of_range for a channel without samples, as does back()
+    [[nodiscard]] DataValueType front() const { return samples_->at(0); }
+    [[nodiscard]] DataValueType back() const { return samples_->at(size() - 1); }
     void reserve(std::size_t count) { samples_->reserve(count); }
     void push_back(DataValueType value) { samples_->push_back(value); }
     [[nodiscard]] std::shared_ptr<SampleVector const> GetSamples() const { return samples_; }

@@ -127,7 +127,7 @@ QList<QString> BaseLog::GetDataChannelNames() const
 
 QList<int> BaseLog::GetDataChannelIndeces(QString const& pattern) const
 {
-    QRegularExpression const expression = QRegularExpression::fromWildcard(pattern, Qt::CaseSensitive);
+    QRegularExpression const expression = QRegularExpression::fromWildcard(pattern);
     QList<int> indices;
     for (std::size_t i = 0; i < data_.size(); ++i) {
         if (expression.match(curve_info_header_.at(i).mnemonic).hasMatch()) {

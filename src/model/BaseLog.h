@@ -60,7 +60,7 @@ public:
     [[nodiscard]] int FindDataChannelByMnem(QString const& mnemonic) const;
     /// All curve mnemonics in order.
     [[nodiscard]] QList<QString> GetDataChannelNames() const;
-    /// Indices of the curves whose mnemonic matches a wildcard pattern such as "RADI*".
+    /// Indices of the curves whose mnemonic matches a wildcard pattern such as "RADI*", in any case.
     [[nodiscard]] QList<int> GetDataChannelIndeces(QString const& pattern) const;
 
     /// Fills leading nulls with the first good sample, trailing ones with the last and gaps with the sample

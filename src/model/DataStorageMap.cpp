@@ -15,6 +15,9 @@ void DataStorageMap::AddDataChannelToDataStorage(int key, std::shared_ptr<Storag
 int DataStorageMap::MoveStorageDataChannelToStorage(std::shared_ptr<StorageDataChannel> const& channel,
                                                     KeyType survey_key)
 {
+    if (!channel) {
+        return -1;
+    }
     int const key = Quorrel::NextKey(channels_);
     if (GetNames().contains(channel->GetName())) {
         channel->SetName(channel->GetName() + QStringLiteral("_") + QString::number(key));

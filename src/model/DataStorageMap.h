@@ -26,7 +26,7 @@ public:
     /// Restores a channel under its stored key, in place of one that is there.
     void AddDataChannelToDataStorage(int key, std::shared_ptr<StorageDataChannel> const& channel);
     /// Takes a new channel in under the next key, which it returns; gives it its identifier and, where its
-    /// name is taken, the name with "_" and the key behind it.
+    /// name is taken, the name with "_" and the key behind it. -1 for a null pointer.
     int MoveStorageDataChannelToStorage(std::shared_ptr<StorageDataChannel> const& channel,
                                         KeyType survey_key);
     void DeleteStorageDataChannel(DataChannelIdentifier const& identifier);

@@ -101,4 +101,10 @@ TEST_F(DepthCorrectionForm, TextThatIsNoNumberChangesNothing)
     Edit(form, "stretch_edit")->setText("");
     EXPECT_EQ(form.GetDepthShift_metric(), 3.0F);
     EXPECT_EQ(form.GetDepthStretchFactor(), 1.1F);
+    for (char const* const text : {"nan", "inf", "1e300"}) {
+        Edit(form, "shift_edit")->setText(text);
+        Edit(form, "stretch_edit")->setText(text);
+        EXPECT_EQ(form.GetDepthShift_metric(), 3.0F) << text;
+        EXPECT_EQ(form.GetDepthStretchFactor(), 1.1F) << text;
+    }
 }

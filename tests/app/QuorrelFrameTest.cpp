@@ -325,6 +325,33 @@ TEST_F(QuorrelFrameTest, EachSurveyHasItsColumnAndOnlyTheCurrentOneShows)
     EXPECT_EQ(combo->count(), 0);
 }
 
+TEST_F(QuorrelFrameTest, ADepthCorrectionTakesOnlyWhatLeavesDepths)
+{
+    auto const key = frame_->AddNewSurvey("A");
+    Import({folder_.Write("a.las", MakeLas())});
+    auto const identifier = frame_->GetCurrentLogPassIdentifier();
+    DataChannelIdentifier const whole_pass(identifier, -1);
+    auto const pass = frame_->GetDepthLogPass(identifier);
+    frame_->OnApplyStretch(whole_pass, 1005, 1010, 1000); // by 2
+    EXPECT_EQ(pass->GetStretch(), 2);
+    EXPECT_EQ(pass->GetMaxDepth_metric(), 1020);
+    frame_->OnApplyStretch(whole_pass, 1005, 1000, 1000); // the mirrored drag of its undo ends on the anchor
+    frame_->OnApplyStretch(whole_pass, 1005, 990, 1000);
+    frame_->OnApplyStretch(whole_pass, 1000, 1005, 1000);
+    EXPECT_EQ(pass->GetStretch(), 2);
+    EXPECT_EQ(pass->GetMaxDepth_metric(), 1020);
+
+    auto const column = frame_->GetColumnWindow(key);
+    column->OnShift(&whole_pass, 1.5F);
+    column->OnStretch(&whole_pass, 1010, 1011, 1000);
+    EXPECT_EQ(pass->GetShift(), -1000 + 1.5 + (1000 - (-1000 + 1.5)) * (1 - 1.1)) << "both were applied";
+    frame_->DeleteLogPass(identifier);
+    EXPECT_NO_THROW(Action("Undo View Change")->trigger());
+    EXPECT_NO_THROW(Action("Undo View Change")->trigger());
+    EXPECT_TRUE(Action("Redo View Change")->isEnabled());
+    frame_->OnApplyShift(DataChannelIdentifier(key, Survey::DATA_STORAGE_NAME_IDENTIFIER, 0), 1);
+}
+
 TEST_F(QuorrelFrameTest, UndoAndRedoFollowTheCurrentColumn)
 {
     auto const key = frame_->AddNewSurvey("A");

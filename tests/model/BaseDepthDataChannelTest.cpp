@@ -49,6 +49,8 @@ TEST(BaseDepthDataChannel, NeverReadsOutsideItsSamples)
     auto const none = MakeChannel({}, {});
     EXPECT_EQ(none->GetValueInterval(0, 1), Interval());
     EXPECT_THROW((void)none->CalculateAverageValue(Interval(0, 1)), std::invalid_argument);
+    EXPECT_THROW((void)none->front(), std::out_of_range);
+    EXPECT_THROW((void)none->back(), std::out_of_range);
 
     auto const short_of_samples = MakeChannel(Depths(0, 1, 5), {1, 2});
     EXPECT_EQ(short_of_samples->GetValueAtDepth(0.5), 1.5F);

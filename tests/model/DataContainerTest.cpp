@@ -90,6 +90,7 @@ TEST_F(DataContainerTest, FindsIdentifiersByPatternAndByList)
 {
     EXPECT_THAT(container_.GetDataChannelIdentifiers(pass_, QString("RAD*")),
                 ElementsAre(DataChannelIdentifier(pass_, 1), DataChannelIdentifier(pass_, 2)));
+    EXPECT_EQ(container_.GetDataChannelIdentifiers(pass_, QString("rad?")).size(), 2);
     EXPECT_THAT(container_.GetDataChannelIdentifiers(pass_, QList<QString>{"RAD2", "MISSING", "GR", "RAD2"}),
                 ElementsAre(DataChannelIdentifier(pass_, 2), gr_, DataChannelIdentifier(pass_, 2)));
     EXPECT_EQ(container_.GetCurveInfo(DataChannelIdentifier(pass_, 2)).mnemonic, "RAD2");

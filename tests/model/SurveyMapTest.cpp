@@ -82,6 +82,8 @@ TEST(DataStorageMap, KeysAndNamesOfStoredChannels)
     EXPECT_THROW(storage.RenameStorageDataChannel({5, "", 2}, "x"), std::out_of_range);
     storage.AddDataChannelToDataStorage(40, MakeChannel({1}, {1}, "stored"));
     EXPECT_EQ(storage.MoveStorageDataChannelToStorage(MakeChannel({1}, {1}, "new"), 5), 41);
+    EXPECT_EQ(storage.MoveStorageDataChannelToStorage(nullptr, 5), -1);
+    EXPECT_EQ(storage.size(), 4U);
 }
 
 TEST(Survey, TellsStorageFromLogs)

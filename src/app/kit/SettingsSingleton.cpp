@@ -3,8 +3,6 @@
 
 #include "app/kit/SettingsSingleton.h"
 
-#include "app/kit/SettingsKeys.h"
-
 #include <QSettings>
 #include <QVariantMap>
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "app/kit/SeparatorSelection.h"
+#include "app/kit/SettingsKeys.h"
 
 #include <QByteArray>
 #include <QChar>
@@ -15,8 +16,8 @@
 
 class QSettings;
 
-/// All user preferences of the process, read from the toolkit's QSettings store at the first Instance() and
-/// written back once, by the destructor at exit; a crash loses the changes of that run.
+/// All user preferences of the process (keys: SettingsKeys.h), read from the toolkit's QSettings store at the
+/// first Instance() and written back once, by the destructor at exit; a crash loses the changes of that run.
 /// Getters may be called from worker threads, setters on the main thread only (there is no lock).
 class SettingsSingleton
 {

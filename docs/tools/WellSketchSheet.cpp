@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Quorrel authors
 // SPDX-License-Identifier: MIT
 
-// well_sketch_sheet <docs/images>: draws every component type of the well sketch in a small fixed well, once as
-// on screen and once as in print, and the whole well beside them.
+// well_sketch_sheet <docs/images>: draws every component type of the well sketch in a small fixed well, once
+// as on screen and once as in print, and the whole well beside them.
 
 #include "well/DirectionalSurveyData.h"
 #include "well/WellSketchRenderer.h"

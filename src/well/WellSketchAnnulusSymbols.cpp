@@ -6,6 +6,7 @@
 #include "well/WellSketchRenderer.h"
 
 #include "display/DepthGeometry.h"
+#include "well/SketchDrawing.h"
 
 #include <QPainter>
 
@@ -71,8 +72,8 @@ void WellSketchRenderer::DrawPackerElement(QPainter& painter, WellComponent cons
         double const x = side < 0 ? geometry.center - outer_radius : geometry.center + inner_radius;
         QRectF const box(x, geometry.top, width, geometry.height);
         painter.fillRect(box, Qt::red);
-        painter.drawLine(box.topLeft(), box.bottomRight());
-        painter.drawLine(box.bottomLeft(), box.topRight());
+        Quorrel::DrawStroke(painter, box.topLeft(), box.bottomRight());
+        Quorrel::DrawStroke(painter, box.bottomLeft(), box.topRight());
         CreateComponentBoundingBox(component, x, width, geometry.top, geometry.height);
     });
     painter.restore();
@@ -124,8 +125,8 @@ void WellSketchRenderer::DrawPerforation(QPainter& painter, WellComponent const&
         double const y = g.top + i * step;
         OnBothSides([&](double side) {
             double const x = g.center + side * base;
-            painter.drawPolygon(QPolygonF(
-                {QPointF(x, y), QPointF(x, y + charge), QPointF(g.center + side * point, y + charge / 2)}));
+            Quorrel::DrawShape(painter, {QPointF(x, y), QPointF(x, y + charge),
+                                         QPointF(g.center + side * point, y + charge / 2)});
         });
     }
     painter.restore();
@@ -154,9 +155,9 @@ WellSketchRenderer::Geometry WellSketchRenderer::DrawPocket(QPainter& painter, W
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(scheme.lines, 1));
     painter.setBrush(scheme.component);
-    painter.drawPolygon(QPolygonF({QPointF(wall, g.top), QPointF(face, g.top + bevel),
-                                   QPointF(face, g.Bottom() - bevel), QPointF(wall, g.Bottom())}));
-    painter.drawLine(QPointF(wall, g.top), QPointF(wall, g.Bottom()));
+    Quorrel::DrawShape(painter, {QPointF(wall, g.top), QPointF(face, g.top + bevel),
+                                 QPointF(face, g.Bottom() - bevel), QPointF(wall, g.Bottom())});
+    Quorrel::DrawStroke(painter, QPointF(wall, g.top), QPointF(wall, g.Bottom()));
     painter.restore();
     CreateComponentBoundingBox(component, std::min(wall, face), width, g.top, g.height);
     return g;
@@ -183,6 +184,6 @@ void WellSketchRenderer::DrawPDHG(QPainter& painter, WellComponent const& compon
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Qt::green, GAUGE_PEN));
-    painter.drawLine(QPointF(g.right, g.Middle()), QPointF(g.center + Pixels(reach), g.Middle()));
+    Quorrel::DrawStroke(painter, QPointF(g.right, g.Middle()), QPointF(g.center + Pixels(reach), g.Middle()));
     painter.restore();
 }

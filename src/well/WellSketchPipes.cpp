@@ -6,6 +6,7 @@
 #include "well/WellSketchRenderer.h"
 
 #include "display/DepthGeometry.h"
+#include "well/SketchDrawing.h"
 
 #include <QPainter>
 
@@ -53,54 +54,68 @@ void WellSketchRenderer::DrawPipeWalls(QPainter& painter, PipeString const& stri
 {
     double const c = Center();
     QString const prefix = string.size() > 1 ? QStringLiteral("[%1] -").arg(string.GetName()) : QString();
-    CalculatedPipeComponent const* previous = nullptr;
+    // Joints of the same diameters show no seam and are drawn as one.
+    WallRun run;
+    auto const finish = [&] {
+        DrawWallRun(painter, run, string.GetIsTubing(), scheme);
+        run = {.previous_outer = run.outer, .previous_inner = run.inner};
+    };
     for (CalculatedPipeComponent const& component : string.GetComponents()) {
         double const outer = Pixels(component.GetNonNullOd()) * 0.5;
         double const inner = std::clamp(Pixels(component.GetNonNullId()) * 0.5, 0.0, std::max(outer, 0.0));
         Interval const& depth = component.GetDepth();
         if (!(outer > 0) || !std::isfinite(outer) || !std::isfinite(depth.lower) ||
             !std::isfinite(depth.upper)) {
-            previous = nullptr;
+            finish();
+            run = {};
             continue;
         }
         double const y1 = Row(depth.lower, interval);
         double const y2 = Row(depth.upper, interval);
-        if (y2 < 0 || y1 >= height_) {
-            previous = &component;
-            continue;
+        if (run.outer != outer || run.inner != inner) {
+            finish();
+            run.outer = outer;
+            run.inner = inner;
+            run.top = y1;
         }
-        if (string.GetIsTubing()) {
-            FillBetween(painter, c - inner, c + inner, y1, y2, scheme.tubing_bore);
-        }
-        // Outlines lie within the wall: its fill and its lines have the same edges.
-        OnBothSides([&](double side) {
-            FillBetween(painter, c + side * inner, c + side * outer, y1, y2, scheme.steel);
-            FillBetween(painter, c + side * inner, c + side * (inner + OUTLINE), y1, y2, scheme.lines);
-            FillBetween(painter, c + side * (outer - OUTLINE), c + side * outer, y1, y2, scheme.lines);
-            if (previous != nullptr) {
-                double const previous_outer = Pixels(previous->GetNonNullOd()) * 0.5;
-                double const previous_inner = std::max(Pixels(previous->GetNonNullId()) * 0.5, 0.0);
-                if (previous_outer != outer) {
-                    FillBetween(painter, c + side * previous_outer, c + side * outer, y1, y1 + OUTLINE,
-                                scheme.lines);
-                }
-                if (previous_inner != inner) {
-                    FillBetween(painter, c + side * previous_inner, c + side * inner, y1, y1 + OUTLINE,
-                                scheme.lines);
-                }
-            }
-        });
-        if (&component == &string.GetComponents().back()) {
-            if (string.GetIsTubing()) {
-                FillBetween(painter, c - outer, c + outer, y2, y2 + OUTLINE, scheme.lines);
-            } else {
-                OnBothSides([&](double side) {
-                    FillBetween(painter, c + side * inner, c + side * outer, y2, y2 + OUTLINE, scheme.lines);
-                });
-            }
-        }
+        run.bottom = y2;
+        run.is_last = &component == &string.GetComponents().back();
         CreatePipeBoundingBox(prefix, component, c, inner, outer, y1, y2);
-        previous = &component;
+    }
+    finish();
+}
+
+void WellSketchRenderer::DrawWallRun(QPainter& painter, WallRun const& run, bool is_tubing,
+                                     ColorScheme const& scheme)
+{
+    if (!(run.outer > 0) || run.bottom < 0 || run.top >= height_) {
+        return;
+    }
+    double const c = Center();
+    double const top = run.top;
+    double const bottom = run.bottom;
+    if (is_tubing) {
+        FillBetween(painter, c - run.inner, c + run.inner, top, bottom, scheme.tubing_bore);
+    }
+    // Outlines lie within the wall: its fill and its lines have the same edges.
+    OnBothSides([&](double side) {
+        auto const fill = [&](double x1, double x2, double y1, double y2, QColor const& color) {
+            FillBetween(painter, c + side * x1, c + side * x2, y1, y2, color);
+        };
+        fill(run.inner, run.outer, top, bottom, scheme.steel);
+        fill(run.inner, run.inner + OUTLINE, top, bottom, scheme.lines);
+        fill(run.outer - OUTLINE, run.outer, top, bottom, scheme.lines);
+        if (run.previous_outer > 0) {
+            // The shoulders of a change of diameter.
+            fill(run.previous_outer, run.outer, top, top + OUTLINE, scheme.lines);
+            fill(run.previous_inner, run.inner, top, top + OUTLINE, scheme.lines);
+        }
+        if (run.is_last && !is_tubing) {
+            fill(run.inner, run.outer, bottom, bottom + OUTLINE, scheme.lines);
+        }
+    });
+    if (run.is_last && is_tubing) {
+        FillBetween(painter, c - run.outer, c + run.outer, bottom, bottom + OUTLINE, scheme.lines);
     }
 }
 
@@ -146,7 +161,7 @@ void WellSketchRenderer::DrawCasingHanger(QPainter& painter, double center, doub
         painter.fillRect(area, Qt::blue);
         // In a narrow gap the outline shrinks to a stroke instead of turning inside out.
         double const inset = std::min(HANGER_PEN / 2, area.width() / 2);
-        painter.drawRect(area.adjusted(inset, HANGER_PEN / 2, -inset, -HANGER_PEN / 2));
+        Quorrel::DrawFrame(painter, area.adjusted(inset, HANGER_PEN / 2, -inset, -HANGER_PEN / 2));
     });
     painter.restore();
 }
@@ -164,8 +179,8 @@ void WellSketchRenderer::DrawCasingShoe(QPainter& painter, double center, double
     painter.setBrush(scheme.lines);
     OnBothSides([&](double side) {
         double const wall = center + side * outer_radius;
-        painter.drawPolygon(QPolygonF({QPointF(wall, y - size), QPointF(wall, y + OUTLINE),
-                                       QPointF(wall + side * size * SHOE_WIDTH_SHARE, y + OUTLINE)}));
+        Quorrel::DrawShape(painter, {QPointF(wall, y - size), QPointF(wall, y + OUTLINE),
+                                     QPointF(wall + side * size * SHOE_WIDTH_SHARE, y + OUTLINE)});
     });
     painter.restore();
 }

@@ -213,12 +213,12 @@ void WellSketchRenderer::CreatePipeBoundingBox(QString const& prefix,
     if (y2 < 0 || y1 > height_) {
         return; // the mouse cannot get there
     }
-    SketchItemText const text{component.GetDepth(), component.GetDescription(),
-                              SketchItemText::PipeSizes{prefix, component.GetNonNullOd(),
-                                                        component.GetNonNullId(), component.GetWeight()}};
+    SketchItemText text{component.GetDepth(), component.GetDescription(),
+                        SketchItemText::PipeSizes{prefix, component.GetNonNullOd(), component.GetNonNullId(),
+                                                  component.GetWeight()}};
     double const wall = outer_radius - inner_radius;
     bounding_boxes_.push_back({text, PixelRect(center - outer_radius, y1, wall, y2 - y1)});
-    bounding_boxes_.push_back({text, PixelRect(center + inner_radius, y1, wall, y2 - y1)});
+    bounding_boxes_.push_back({std::move(text), PixelRect(center + inner_radius, y1, wall, y2 - y1)});
 }
 
 void WellSketchRenderer::CreateComponentBoundingBox(WellComponent const& component, double x, double width,

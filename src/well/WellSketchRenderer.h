@@ -86,6 +86,17 @@ private:
         std::vector<QPointF> outer;
         std::vector<QPointF> inner;
     };
+    /// Joints of the same diameters, one below the other; radii and rows in pixels.
+    struct WallRun
+    {
+        double outer = 0;
+        double inner = 0;
+        double top = 0;
+        double bottom = 0;
+        bool is_last = false;      ///< ends at the foot of the string
+        double previous_outer = 0; ///< of the run above, 0 without one
+        double previous_inner = 0;
+    };
     using ComponentList = PipeStringData::ComponentList;
 
     [[nodiscard]] Geometry ComponentCalculations(WellComponent const& component, double diameter, int width,
@@ -110,6 +121,7 @@ private:
                         ColorScheme const& scheme);
     void DrawPipeWalls(QPainter& painter, PipeString const& string, Interval const& interval,
                        ColorScheme const& scheme);
+    void DrawWallRun(QPainter& painter, WallRun const& run, bool is_tubing, ColorScheme const& scheme);
     void DrawCasingEnds(QPainter& painter, PipeString const& string, Interval const& interval,
                         ColorScheme const& scheme);
     void DrawCasingHanger(QPainter& painter, double center, double outer_radius, double inner_radius,

@@ -5,6 +5,8 @@
 
 #include "well/WellSketchRenderer.h"
 
+#include "well/SketchDrawing.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -49,8 +51,8 @@ void WellSketchRenderer::DrawPlug(QPainter& painter, WellComponent const& compon
     painter.fillRect(g.Rect(), scheme.component);
     painter.setPen(QPen(Qt::red, PLUG_CROSS_PEN, Qt::SolidLine, Qt::RoundCap));
     QRectF const cross = g.Rect().adjusted(1, 1, -1, -1);
-    painter.drawLine(cross.topLeft(), cross.bottomRight());
-    painter.drawLine(cross.bottomLeft(), cross.topRight());
+    Quorrel::DrawStroke(painter, cross.topLeft(), cross.bottomRight());
+    Quorrel::DrawStroke(painter, cross.bottomLeft(), cross.topRight());
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -65,11 +67,11 @@ void WellSketchRenderer::DrawFish(QPainter& painter, WellComponent const& compon
     double const fins = 0.7 * Center();
     double const neck = g.top + g.height / 3;
     SymbolPainter const symbol(painter, Qt::green);
-    painter.drawPolygon(QPolygonF(
-        {QPointF(g.center - fins, g.top), QPointF(g.center + fins, g.top), QPointF(g.center, neck)}));
-    painter.drawPolygon(
-        QPolygonF({QPointF(g.center, neck), QPointF(g.right, neck + (g.Bottom() - neck) * 0.4),
-                   QPointF(g.center, g.Bottom()), QPointF(g.left, neck + (g.Bottom() - neck) * 0.4)}));
+    Quorrel::DrawShape(
+        painter, {QPointF(g.center - fins, g.top), QPointF(g.center + fins, g.top), QPointF(g.center, neck)});
+    Quorrel::DrawShape(painter,
+                       {QPointF(g.center, neck), QPointF(g.right, neck + (g.Bottom() - neck) * 0.4),
+                        QPointF(g.center, g.Bottom()), QPointF(g.left, neck + (g.Bottom() - neck) * 0.4)});
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -83,10 +85,10 @@ void WellSketchRenderer::DrawRestriction(QPainter& painter, WellComponent const&
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
     double const bore = 2 * g.half_width;
     SymbolPainter const symbol(painter, scheme.component);
-    painter.drawPolygon(QPolygonF(
-        {QPointF(g.left, g.top), QPointF(g.left + 0.3 * bore, g.Middle()), QPointF(g.left, g.Bottom())}));
-    painter.drawPolygon(QPolygonF(
-        {QPointF(g.right, g.top), QPointF(g.right - 0.15 * bore, g.Middle()), QPointF(g.right, g.Bottom())}));
+    Quorrel::DrawShape(painter, {QPointF(g.left, g.top), QPointF(g.left + 0.3 * bore, g.Middle()),
+                                 QPointF(g.left, g.Bottom())});
+    Quorrel::DrawShape(painter, {QPointF(g.right, g.top), QPointF(g.right - 0.15 * bore, g.Middle()),
+                                 QPointF(g.right, g.Bottom())});
     CreateComponentBoundingBox(component, g.left, bore, g.top, g.height);
 }
 
@@ -99,11 +101,11 @@ void WellSketchRenderer::DrawSafetyValve(QPainter& painter, WellComponent const&
     }
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
     SymbolPainter const symbol(painter, scheme.component);
-    painter.drawEllipse(g.Rect());
+    Quorrel::DrawOval(painter, g.Rect());
     painter.setPen(QPen(Qt::red, VALVE_LINE_PEN));
     QPointF const middle(g.center, g.Middle());
     QPointF const end(g.half_width * SIN_45, g.height / 2 * SIN_45);
-    painter.drawLine(middle - end, middle + end);
+    Quorrel::DrawStroke(painter, middle - end, middle + end);
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -119,7 +121,7 @@ void WellSketchRenderer::DrawSleeve(QPainter& painter, WellComponent const& comp
         ComponentCalculations(component, pipe->GetNonNullOd() + 0.5, width_, height_, interval);
     SymbolPainter const symbol(painter, Qt::NoBrush);
     painter.setPen(QPen(scheme.lines, SLEEVE_PEN));
-    painter.drawRect(g.Rect());
+    Quorrel::DrawFrame(painter, g.Rect());
     painter.setPen(QPen(scheme.lines, 1));
     for (double const share : {0.2, 0.5, 0.8}) {
         painter.drawEllipse(QPointF(g.left + share * 2 * g.half_width, g.Middle()), SLEEVE_PORT / 2,
@@ -142,10 +144,10 @@ void WellSketchRenderer::DrawNipple(QPainter& painter, WellComponent const& comp
     OnBothSides([&](double side) {
         double const wall = g.center + side * g.half_width;
         double const face = wall - side * width;
-        painter.drawPolygon(
-            QPolygonF({QPointF(wall, g.top), QPointF(face, g.top), QPointF(face, g.Middle() - notch),
-                       QPointF(wall - side * width * 0.35, g.Middle()), QPointF(face, g.Middle() + notch),
-                       QPointF(face, g.Bottom()), QPointF(wall, g.Bottom())}));
+        Quorrel::DrawShape(
+            painter, {QPointF(wall, g.top), QPointF(face, g.top), QPointF(face, g.Middle() - notch),
+                      QPointF(wall - side * width * 0.35, g.Middle()), QPointF(face, g.Middle() + notch),
+                      QPointF(face, g.Bottom()), QPointF(wall, g.Bottom())});
     });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
@@ -191,9 +193,9 @@ void WellSketchRenderer::DrawCut(QPainter& painter, WellComponent const& compone
     SymbolPainter const symbol(painter, scheme.component);
     OnBothSides([&](double side) {
         double const base = g.center + side * g.half_width;
-        painter.drawPolygon(
-            QPolygonF({QPointF(base, g.Middle() - half_height), QPointF(base, g.Middle() + half_height),
-                       QPointF(g.center + side * point, g.Middle())}));
+        Quorrel::DrawShape(painter,
+                           {QPointF(base, g.Middle() - half_height), QPointF(base, g.Middle() + half_height),
+                            QPointF(g.center + side * point, g.Middle())});
     });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
@@ -212,7 +214,7 @@ void WellSketchRenderer::DrawStraddle(QPainter& painter, WellComponent const& co
     SymbolPainter const symbol(painter, scheme.component);
     OnBothSides([&](double side) {
         double const x = side < 0 ? g.center - radius : g.center + radius - wall;
-        painter.drawRect(QRectF(x, g.Middle() - height / 2, wall, height));
+        Quorrel::DrawFrame(painter, QRectF(x, g.Middle() - height / 2, wall, height));
     });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }

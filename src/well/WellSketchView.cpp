@@ -5,7 +5,9 @@
 
 #include "app/kit/Globals.h"
 #include "display/BaseViewWidgetParameters.h"
+#include "display/ClippedDrawing.h"
 #include "display/ColumnContext.h"
+#include "well/SketchDrawing.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -61,10 +63,12 @@ void WellSketchView::RenderBoundingBox(QPainter& painter) const
 {
     QPen const saved_pen = painter.pen();
     painter.setPen(QPen(QColor(127, 255, 165), HIGHLIGHT_PEN));
+    painter.setBrush(Qt::NoBrush);
     if (box_ != nullptr) {
-        painter.drawRect(box_->area);
+        Quorrel::DrawFrame(painter, QRectF(box_->area).adjusted(0, 0, -1, -1));
     } else if (polygon_ != nullptr) {
-        painter.drawPolygon(polygon_->area);
+        Quorrel::DrawPolygonClipped(painter, polygon_->area.constData(),
+                                    static_cast<std::size_t>(polygon_->area.size()));
     }
     painter.setPen(saved_pen);
 }

@@ -6,14 +6,18 @@
 #include "app/kit/Quorrel.h"
 #include "app/kit/SettingsSingleton.h"
 #include "display/BaseCombinedViewWidget.h"
+#include "display/BaseScaleView.h"
 #include "display/ColumnWindow.h"
+#include "display/ScaleItemParameters.h"
 #include "display/ScrollAreaWrapper.h"
+#include "display/XYChart.h"
 #include "model/DepthLogPass.h"
 #include "resources/Resources.h"
 #include "support/DialogAnswer.h"
 #include "support/PrintQt.h"
 #include "support/TestFiles.h"
 #include "support/WaitFor.h"
+#include "well/DeviationDataView.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -369,4 +373,54 @@ TEST_F(QuorrelFrameTest, UndoAndRedoFollowTheCurrentColumn)
     Action("Undo View Change")->trigger();
     EXPECT_EQ(column->GetViewDepth(), before);
     EXPECT_TRUE(Action("Redo View Change")->isEnabled());
+}
+
+TEST_F(QuorrelFrameTest, AWellShowsInEveryColumn)
+{
+    auto const first = frame_->AddNewSurvey("First");
+    frame_->AddNewSurvey("Second");
+    QList<QString> names;
+    for (auto const* pair : frame_->GetCurrentColumnWindow()->FindAllVisibleCombinedViewWidgets()) {
+        names << pair->GetBaseViewWidgetName();
+    }
+    EXPECT_EQ(names, QList<QString>({"Depth", "Zones", "Deviation", "Well Sketch"}));
+    EXPECT_EQ(frame_->GetCurrentColumnWindow()->GetTotalDisplayedInterval(), Interval(0, 5000));
+
+    PipeStringData strings;
+    strings.SetPipeStringVector({{"Casing", 2000, false, {{10, 9, 40, 2000, "casing"}}}});
+    frame_->SetTrajectorySurvey({{0, 0, 0}, {1000, 0, 0}}, {});
+    frame_->SetPipeStringData(strings);
+    frame_->RedrawAllColumnWindows();
+    for (int const key : {static_cast<int>(first), static_cast<int>(frame_->GetCurrentSurveyKey())}) {
+        auto const column = frame_->GetColumnWindow(key);
+        EXPECT_EQ(column->GetTotalDisplayedInterval(), Interval(-1, 2001)) << key;
+        auto const* deviation = qobject_cast<DeviationDataView*>(
+            column->FindCombinedViewWidget("Deviation")->GetBaseViewWidget());
+        ASSERT_NE(deviation, nullptr);
+        EXPECT_EQ(deviation->GetScales().size(), 2U);
+        EXPECT_EQ(column->FindCombinedViewWidget("Deviation")->GetBaseScaleView()->GetScaleCount(), 2);
+    }
+    // A change of unit reaches the columns that are not shown too.
+    frame_->OnIsMetricDepthToggled(false);
+    for (int const key : {static_cast<int>(first), static_cast<int>(frame_->GetCurrentSurveyKey())}) {
+        auto const* deviation = qobject_cast<DeviationDataView*>(
+            frame_->GetColumnWindow(key)->FindCombinedViewWidget("Deviation")->GetBaseViewWidget());
+        EXPECT_EQ(deviation->GetScales().at(1)->header.unit, "ft");
+    }
+}
+
+TEST_F(QuorrelFrameTest, TheVerticalSectionIsAChartOfItsOwn)
+{
+    // Due north at 90 degrees: the section equals the measured depth, the true depth stays at the tie-in.
+    frame_->SetTrajectorySurvey({{0, 90, 0}, {100, 90, 0}}, {50, 0, 0});
+    Action("&Show Vertical Section")->trigger();
+    auto const* chart = frame_->findChild<XYChart*>();
+    ASSERT_NE(chart, nullptr);
+    EXPECT_TRUE(chart->isWindow());
+    EXPECT_TRUE(chart->isVisible());
+    EXPECT_EQ(chart->GetChartTitle(), "Vertical Section");
+    EXPECT_EQ(chart->GetXAxisTitle(), "Vsec [m]");
+    EXPECT_EQ(chart->GetYAxisTitle(), "Depth [m]");
+    EXPECT_EQ(chart->GetXAxis().interval, Interval(0, 100));
+    EXPECT_TRUE(chart->GetYAxis().interval.Contains(50));
 }

@@ -1,0 +1,208 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "well/WellSketchView.h"
+
+#include "display/ViewBench.h"
+#include "well/ComponentInfoOverlay.h"
+#include "well/SketchWell.h"
+#include "well/WellComponentInfo.h"
+#include "well/WellSketchCombinedViewWidget.h"
+#include "well/WellViewFactory.h"
+#include "well/ZoneTrack.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+using Type = WellComponentType;
+
+/// A sketch of the well of SketchWell.h on screen, one metre per row.
+class WellSketchViewTest : public testing::Test
+{
+protected:
+    WellSketchViewTest()
+    {
+        strings = sketch_well::Data(sketch_well::Strings());
+        bench.parameters.SetTotalDisplayedDepthInterval(sketch_well::VIEW);
+        bench.parameters.SetViewDepthMetric(sketch_well::VIEW);
+        Quorrel::DPI_X = Quorrel::DPI_Y = sketch_well::DPI;
+        bench.context.pipe_strings = &strings;
+        bench.context.components = &components;
+        bench.context.zone_tracks = &tracks;
+        bench.context.perforation_zones = &zones;
+        bench.context.interpretation_zones = &zones;
+    }
+
+    void Show()
+    {
+        pair = std::make_unique<WellSketchCombinedViewWidget>("Well Sketch", bench.context);
+        view = pair->GetWellSketchView();
+        view->setFixedSize(sketch_well::WIDTH, sketch_well::HEIGHT);
+        pair->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(pair.get()));
+        view->grab();
+    }
+    void MoveMouse(int x, int y) const { view_bench::Drag(view, {x, y}); }
+    [[nodiscard]] QString Status(int x, int y) const
+    {
+        MoveMouse(x, y);
+        return view->GetStatusMessage(x, y).text;
+    }
+
+    view_bench::Bench bench;
+    PipeStringData strings;
+    QList<WellComponent> components;
+    QList<ZoneTrack> tracks;
+    QList<Zone> zones;
+    std::unique_ptr<WellSketchCombinedViewWidget> pair;
+    WellSketchView* view = nullptr;
+};
+} // namespace
+
+TEST_F(WellSketchViewTest, FindsWhatWasDrawnLast)
+{
+    components = {{{200, 220}, "plug", Type::Plug},
+                  {{210, 230}, "valve", Type::SafetyValve},
+                  {{190, 300}, "cement", Type::CementPlug},
+                  {{200, 250}, "more cement", Type::CementPlug}};
+    Show();
+    EXPECT_EQ(view->objectName(), "VIEW_WIDGET_WELL_SKETCH_VIEW");
+    EXPECT_EQ(Status(70, 150), "Well Sketch");
+    EXPECT_EQ(Status(130, 195), "cement     MD[190 - 300]m");
+    EXPECT_EQ(Status(130, 205), "plug     MD[200 - 220]m");
+    EXPECT_EQ(Status(130, 215), "valve     MD[210 - 230]m");
+    EXPECT_EQ(Status(130, 225), "valve     MD[210 - 230]m");
+    EXPECT_EQ(Status(130, 240), "more cement     MD[200 - 250]m");
+    EXPECT_EQ(Status(130, 290), "cement     MD[190 - 300]m");
+    EXPECT_FLOAT_EQ(view->GetStatusMessage(130, 290).depth, 290);
+
+    // Outside the view nothing is under the mouse.
+    MoveMouse(130, 205);
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(view, &leave);
+    EXPECT_EQ(view->GetStatusMessage(130, 205).text, "Well Sketch");
+
+    // Nor is it while a vertical selection is on.
+    bench.parameters.SetVerticalZoomChecked(true);
+    EXPECT_EQ(Status(130, 205), "Well Sketch");
+}
+
+TEST_F(WellSketchViewTest, AnItemUnderTheMouseStandsOut)
+{
+    components = {{{200, 220}, "plug", Type::Plug}};
+    Show();
+    int const renders = view->GetRenderCount();
+    MoveMouse(130, 210);
+    QImage const image = view->grab().toImage();
+    EXPECT_EQ(image.pixel(115, 203), qRgb(127, 255, 165));
+    EXPECT_EQ(image.pixel(112, 203), qRgb(127, 255, 165)); // 7 wide
+    EXPECT_NE(image.pixel(106, 203), qRgb(127, 255, 165));
+    EXPECT_EQ(view->GetRenderCount(), renders); // only drawn over the cached picture
+
+    // A rendering with fewer items leaves nothing behind to point at.
+    components.clear();
+    view->ForceRedraw();
+    EXPECT_NE(view->grab().toImage().pixel(115, 203), qRgb(127, 255, 165));
+    EXPECT_FALSE(view->GetStatusMessage(130, 210).text.contains("plug"));
+}
+
+TEST_F(WellSketchViewTest, AClickReportsTheItem)
+{
+    components = {{{220, 200}, "plug", Type::Plug}, {{850, 870}, "cement", Type::CementPlug}};
+    Show();
+    WellViewFactory const factory;
+    std::vector<std::pair<Interval, QString>> clicks;
+    QObject receiver;
+    factory.ConnectComponentClicks(pair.get(), &receiver, [&](Interval const& md, QString const& text) {
+        clicks.emplace_back(md, text);
+    });
+    MoveMouse(130, 210);
+    QTest::mouseClick(view, Qt::LeftButton, {}, {130, 210});
+    MoveMouse(130, 860);
+    QTest::mouseClick(view, Qt::LeftButton, {}, {130, 860});
+    MoveMouse(70, 150);
+    QTest::mouseClick(view, Qt::LeftButton, {}, {70, 150});
+    ASSERT_EQ(clicks.size(), 2U);
+    EXPECT_EQ(clicks[0].first, Interval(200, 220));
+    EXPECT_EQ(clicks[0].second, "plug");
+    EXPECT_EQ(clicks[1].second, "cement");
+}
+
+TEST_F(WellSketchViewTest, DepthsAreThoseOfTheStrings)
+{
+    Show();
+    EXPECT_EQ(pair->GetDepthInterval_metric(), Interval(0, 1000));
+    strings = {};
+    EXPECT_EQ(pair->GetDepthInterval_metric(), std::nullopt);
+}
+
+TEST_F(WellSketchViewTest, PrintHasItsOwnColoursAndLeavesTheScreenAlone)
+{
+    Show();
+    QImage page(2 * sketch_well::WIDTH, sketch_well::HEIGHT, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    pair->RenderDataview(painter, sketch_well::VIEW, 600, 1, 0, 100);
+    painter.end();
+    EXPECT_EQ(page.pixel(60, 300), qRgb(0, 0, 0)); // outline of the conductor, now at 20 px per inch
+    EXPECT_EQ(page.pixel(65, 300), qRgb(128, 128, 128));
+    // Hit areas are the screen's again after its next paint.
+    view->grab();
+    EXPECT_TRUE(Status(32, 300).startsWith(" conductor"));
+}
+
+TEST_F(WellSketchViewTest, TheFactoryMakesTheColumnsViews)
+{
+    WellViewFactory const factory;
+    std::unique_ptr<BaseCombinedViewWidget> const zone_pair(factory.CreateZoneView("Zones", bench.context));
+    std::unique_ptr<BaseCombinedViewWidget> const deviation(
+        factory.CreateDeviationView("Deviation", bench.context));
+    std::unique_ptr<BaseCombinedViewWidget> const sketch(
+        factory.CreateWellSketchView("Sketch", bench.context));
+    EXPECT_EQ(zone_pair->GetBaseViewWidgetObjectName(), "VIEW_WIDGET_ZONE_VIEW");
+    EXPECT_EQ(deviation->GetBaseViewWidgetObjectName(), "VIEW_WIDGET_DEVIATION_DATAVIEW");
+    EXPECT_EQ(sketch->GetBaseViewWidgetObjectName(), "VIEW_WIDGET_WELL_SKETCH_VIEW");
+    for (auto const* made : {zone_pair.get(), deviation.get(), sketch.get()}) {
+        EXPECT_TRUE(made->isHidden());
+    }
+}
+
+TEST_F(WellSketchViewTest, TheOverlayShowsDepthsInTheSettingsUnitUntilAClick)
+{
+    SettingsSingleton::Instance().SetMetricDepth(false);
+    QWidget parent;
+    parent.resize(800, 600);
+    parent.show();
+    WellViewFactory const factory;
+    QPointer<QWidget> const overlay =
+        factory.CreateComponentInfoOverlay(&parent, Interval(100, 200), Interval(0, 150), "valve");
+    overlay->show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&parent));
+    EXPECT_EQ(overlay->size(), parent.size());
+    QStringList texts;
+    for (auto const* edit : overlay->findChildren<QLineEdit*>()) {
+        EXPECT_TRUE(edit->isReadOnly());
+        texts << edit->text();
+    }
+    // 3.28084 feet per metre.
+    EXPECT_EQ(texts, QStringList({"valve", "328.08", "656.17", "0.00", "492.13"}));
+    QStringList titles;
+    for (auto const* box : overlay->findChildren<QGroupBox*>()) {
+        titles << box->title();
+    }
+    EXPECT_EQ(titles, QStringList({"Description", "Depth Interval[MD]", "Depth Interval[TVD]"}));
+
+    auto* const info = overlay->findChild<WellComponentInfo*>();
+    EXPECT_NEAR(info->geometry().center().x(), 400, 2);
+    QTest::mouseClick(info, Qt::LeftButton);
+    QTest::mouseClick(overlay->findChild<QGroupBox*>(), Qt::LeftButton);
+    EXPECT_TRUE(overlay && overlay->isVisible());
+    QTest::mouseClick(overlay, Qt::LeftButton, {}, {10, 10});
+    EXPECT_TRUE(!overlay || !overlay->isVisible());
+}

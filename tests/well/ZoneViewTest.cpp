@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "well/ZoneView.h"
+
+#include "display/BaseScaleView.h"
+#include "display/ViewBench.h"
+#include "well/WellViewFactory.h"
+#include "well/ZoneCombinedViewWidget.h"
+
+#include <QPainter>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace {
+QColor const red(Qt::red);
+QColor const green(Qt::green);
+QColor const blue(Qt::blue);
+
+/// Three columns of 100 px with margins of 6 (0.02 of 300), 1000 to 1100 m over 201 rows: two rows a metre.
+class ZoneViewTest : public testing::Test
+{
+protected:
+    ZoneViewTest()
+    {
+        perforations = {Zone({1010, 1020}, "", red)};
+        ZoneTrack track("Geology");
+        track.SetZones({Zone({1080, 1050}, "Sand", green), Zone({900, 1000.5}, "", blue)});
+        tracks = {track};
+        interpretation = {Zone({1000, 1100}, "Z1", red), Zone({1040, 1041}, "Z2", blue)};
+        bench.context.perforation_zones = &perforations;
+        bench.context.zone_tracks = &tracks;
+        bench.context.interpretation_zones = &interpretation;
+        pair = std::make_unique<ZoneCombinedViewWidget>("Zones", bench.context);
+        view = pair->GetZoneView();
+        view->setFixedSize(300, 201);
+        pair->show();
+    }
+    void SetUp() override
+    {
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(pair.get()));
+        image = view->grab().toImage();
+    }
+
+    view_bench::Bench bench;
+    QList<Zone> perforations;
+    QList<ZoneTrack> tracks;
+    QList<Zone> interpretation;
+    std::unique_ptr<ZoneCombinedViewWidget> pair;
+    ZoneView* view = nullptr;
+    QImage image;
+};
+} // namespace
+
+TEST_F(ZoneViewTest, ColumnsStandSideBySide)
+{
+    EXPECT_EQ(view->GetHeadings(), QStringList({"Perforation", "Geology", "Interpretation"}));
+    EXPECT_EQ(view->CountNumberOfZoneColumns(), 3);
+    auto const& boxes = view->GetBoundingBoxes();
+    ASSERT_EQ(boxes.size(), 3U);
+    EXPECT_EQ(boxes[0].at(0).area, QRect(6, 20, 88, 20));
+    EXPECT_EQ(boxes[1].at(0).area, QRect(106, 100, 88, 60)); // ends in reverse order
+    EXPECT_EQ(boxes[1].at(1).area, QRect(106, 0, 88, 1));    // begins above the window
+    EXPECT_EQ(boxes[2].at(0).area, QRect(206, 0, 88, 200));
+
+    EXPECT_EQ(image.pixelColor(5, 30), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(6, 30), red);
+    EXPECT_EQ(image.pixelColor(93, 30), red);
+    EXPECT_EQ(image.pixelColor(94, 30), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(50, 19), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(50, 40), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(110, 110), green);
+    EXPECT_EQ(image.pixelColor(150, 0), blue);
+    EXPECT_EQ(image.pixelColor(150, 1), QColor(Qt::black));
+    EXPECT_EQ(image.pixelColor(210, 81), blue);
+}
+
+TEST_F(ZoneViewTest, StatusTextNamesColumnAndDepths)
+{
+    EXPECT_EQ(view->GetStatusMessage(50, 30).text, "[Perforation] -      MD[1,010 - 1,020]m");
+    EXPECT_FLOAT_EQ(view->GetStatusMessage(50, 30).depth, 1015);
+    EXPECT_EQ(view->GetStatusMessage(150, 120).text, "[Geology] - Sand     MD[1,050 - 1,080]m");
+    EXPECT_EQ(view->GetStatusMessage(250, 100).text, "[Interpretation] - Z1     MD[1,000 - 1,100]m");
+    EXPECT_EQ(view->GetStatusMessage(250, 80).text, "[Interpretation] - Z2     MD[1,040 - 1,041]m");
+    EXPECT_EQ(view->GetStatusMessage(50, 60).text, "No zone");
+    EXPECT_EQ(view->GetStatusMessage(-1, 30).text, "No zone");
+    EXPECT_EQ(view->GetStatusMessage(300, 30).text, "No zone");
+    EXPECT_EQ(view->FindZoneColumn(99), 0);
+    EXPECT_EQ(view->FindZoneColumn(100), 1);
+}
+
+TEST_F(ZoneViewTest, AClickReportsTheZone)
+{
+    std::vector<std::pair<Interval, QString>> clicks;
+    QObject receiver;
+    WellViewFactory().ConnectComponentClicks(
+        pair.get(), &receiver,
+        [&](Interval const& md, QString const& text) { clicks.emplace_back(md, text); });
+    QTest::mouseClick(view, Qt::LeftButton, {}, {150, 120});
+    QTest::mouseClick(view, Qt::LeftButton, {}, {50, 60});
+    QTest::mouseClick(view, Qt::RightButton, {}, {150, 120});
+    // A drag that begins beside the zones and ends on one is no click.
+    QTest::mousePress(view, Qt::LeftButton, {}, {50, 60});
+    QTest::mouseRelease(view, Qt::LeftButton, {}, {150, 120});
+    bench.parameters.SetInterpretationZonesDefinitionChecked(true);
+    QTest::mouseClick(view, Qt::LeftButton, {}, {150, 120});
+    ASSERT_EQ(clicks.size(), 1U);
+    EXPECT_EQ(clicks[0].first, Interval(1050, 1080));
+    EXPECT_EQ(clicks[0].second, "[Geology] - Sand");
+}
+
+TEST_F(ZoneViewTest, TheZoneUnderTheMouseIsFramed)
+{
+    int const renders = view->GetRenderCount();
+    view_bench::Drag(view, {50, 30});
+    EXPECT_EQ(view->grab().toImage().pixelColor(7, 25), QColor(127, 255, 165));
+    view_bench::Drag(view, {50, 60});
+    EXPECT_EQ(view->grab().toImage().pixelColor(7, 25), red);
+    EXPECT_EQ(view->GetRenderCount(), renders);
+}
+
+TEST_F(ZoneViewTest, NoZonesNoColumn)
+{
+    perforations.clear();
+    tracks.clear();
+    interpretation.clear();
+    view->ForceRedraw();
+    view->grab();
+    EXPECT_EQ(view->CountNumberOfZoneColumns(), 0);
+    EXPECT_TRUE(view->GetBoundingBoxes().empty());
+    EXPECT_EQ(view->GetStatusMessage(150, 120).text, "No zone");
+}
+
+TEST_F(ZoneViewTest, FaultyDepthsAreSurvived)
+{
+    double const nan = std::numeric_limits<double>::quiet_NaN();
+    double const infinity = std::numeric_limits<double>::infinity();
+    interpretation = {Zone({nan, 1050}, "a", red), Zone({1050, nan}, "b", red),
+                      Zone({-infinity, infinity}, "c", blue), Zone({-1e300, 1e300}, "d", green)};
+    view->ForceRedraw();
+    QImage const after = view->grab().toImage();
+    EXPECT_EQ(after.pixelColor(210, 10), green);
+    for (Interval const& interval : {Interval(nan, nan), Interval(5, 5), Interval(), Interval(1100, 1000)}) {
+        QImage page(300, 201, QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QPainter painter(&page);
+        view->RenderToPainter(painter, interval, 300);
+        EXPECT_TRUE(view->GetBoundingBoxes().empty());
+    }
+    // Narrower than its margins.
+    QImage page(2, 201, QImage::Format_RGB32);
+    QPainter painter(&page);
+    view->RenderToPainter(painter, {1000, 1100}, 2);
+    EXPECT_EQ(view->FindZoneColumn(1), -1);
+}
+
+TEST_F(ZoneViewTest, TheHeaderIsAsHighAsItsHeadings)
+{
+    EXPECT_EQ(pair->GetBaseScaleView()->GetName(), "Zones");
+    EXPECT_EQ(pair->GetBaseScaleView()->sizeHint().height(), 40);
+}

@@ -28,8 +28,8 @@ std::span<ActionDefinition const> ActionTable()
 
         ActionDefinition{Id::Undo, "Undo View Change", "Undo.svg", QKeySequence(QKeySequence::Undo), false, "", Menu::Edit, Bar::Zoom, On::UndoAvailable, false},
         ActionDefinition{Id::Redo, "Redo View Change", "Redo.svg", QKeySequence(QKeySequence::Redo), false, "", Menu::Edit, Bar::Zoom, On::RedoAvailable, false},
-        ActionDefinition{Id::WellDetails, "Well Details Window", "Well Details.svg", no_key, false, "", Menu::Edit, Bar::Well, On::NotYet, true},
-        ActionDefinition{Id::ImportWellDetails, "Import Well Details From JSON", "Import Well Details.svg", no_key, false, "", Menu::Edit, Bar::Well, On::NotYet, false},
+        ActionDefinition{Id::WellDetails, "Well Details Window", "Well Details.svg", no_key, false, "", Menu::Edit, Bar::Well, On::Always, true},
+        ActionDefinition{Id::ImportWellDetails, "Import Well Details From JSON", "Import Well Details.svg", no_key, false, "", Menu::Edit, Bar::Well, On::Always, false},
         ActionDefinition{Id::CalculateWellVolumes, "Calculate Well Volumes", "Calculate Well Volumes.svg", no_key, false, "", Menu::Edit, Bar::Well, On::NotYet, false},
         ActionDefinition{Id::EditSurveyNotes, "&Edit Survey Notes", "Edit Survey Notes.svg", no_key, false, "", Menu::Edit, Bar::Survey, On::Survey, true},
         ActionDefinition{Id::GeneratePipeWall, "Generate Pipe Wall Dataview with MFC data from current log-pass", "Generate Pipe Wall.svg", no_key, false, "Generate casing/tubing wall User-Dataview based on Pipe-data and MFC data in current log-pass", Menu::Edit, Bar::Caliper, On::NotYet, false},

@@ -136,6 +136,8 @@ void QuorrelFrame::CreateActions()
     on(ActionId::CheckForUpdates, &QuorrelFrame::OnCheckForNewVersion_MenuAction);
     on(ActionId::PreviousPass, &QuorrelFrame::OnPreviousPass);
     on(ActionId::NextPass, &QuorrelFrame::OnNextPass);
+    on(ActionId::WellDetails, &QuorrelFrame::OnWellDetails);
+    on(ActionId::ImportWellDetails, &QuorrelFrame::OnImportWellDetails);
     on(ActionId::Settings, &QuorrelFrame::OnSettings);
     on_toggled(ActionId::ZoomVerticalInterval, &QuorrelFrame::ZoomVerticalIntervalToggled);
     on_toggled(ActionId::ZoomHorizontalInterval, &QuorrelFrame::ZoomHorizontalIntervalToggled);

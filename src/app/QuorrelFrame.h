@@ -32,7 +32,8 @@ struct FrameState;
 /// go through the forwarding functions of ProjectAccess; each write marks the project as modified.
 ///
 /// Its slots stand in several sources by topic: QuorrelFrame.cpp (construction, tools, title),
-/// QuorrelFrameSurveys.cpp, QuorrelFramePasses.cpp, QuorrelFrameImport.cpp, QuorrelFrameWell.cpp and
+/// QuorrelFrameSurveys.cpp, QuorrelFramePasses.cpp, QuorrelFrameImport.cpp, QuorrelFrameWell.cpp,
+/// QuorrelFrameWellDetails.cpp and
 /// QuorrelFrameUpdates.cpp.
 class QuorrelFrame : public QMainWindow, public ProjectAccess
 {
@@ -107,6 +108,9 @@ public slots:
     void OnSurveyComboBoxSelection(int index);
     void OnSurveyDeleted(KeyType key);
     void OnEditSurveyText();
+
+    void OnWellDetails();
+    void OnImportWellDetails();
 
     void OnSettings();
     void OnIsMetricDepthToggled(bool checked);

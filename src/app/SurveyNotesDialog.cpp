@@ -3,6 +3,7 @@
 
 #include "app/SurveyNotesDialog.h"
 
+#include "app/kit/ProjectText.h"
 #include "app/kit/Quorrel.h"
 
 #include <QDialogButtonBox>
@@ -30,13 +31,8 @@ QString SurveyNotesDialog::GetText() const
 
 void SurveyNotesDialog::accept()
 {
-    auto const bytes = GetText().toUtf8().size();
-    if (bytes > MAX_BYTES) {
-        QMessageBox::information(this, windowTitle(),
-                                 tr("The notes are too long for a project file: %1 bytes of at most %2. "
-                                    "Please shorten the text.")
-                                     .arg(bytes)
-                                     .arg(MAX_BYTES));
+    if (auto const message = Quorrel::CheckProjectText(tr("The notes are"), GetText()); !message.isEmpty()) {
+        QMessageBox::information(this, windowTitle(), message);
         return;
     }
     QDialog::accept();

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "app/kit/ProjectText.h"
+
 #include <QDialog>
 
 class QPlainTextEdit;
@@ -14,7 +16,7 @@ class SurveyNotesDialog final : public QDialog
     Q_OBJECT
 public:
     /// Greatest length a project file can hold, in bytes of UTF-8.
-    static constexpr qsizetype MAX_BYTES = 65535;
+    static constexpr qsizetype MAX_BYTES = Quorrel::MAX_PROJECT_TEXT_BYTES;
 
     SurveyNotesDialog(QString const& survey_name, QString const& text, QWidget* parent = nullptr);
 

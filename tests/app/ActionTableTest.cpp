@@ -33,12 +33,6 @@ QStringList Sorted(QStringList texts)
     return texts;
 }
 
-<<<<<<< HEAD
-QStringList const ALWAYS{
-    "&New Survey",       "New Project", "E&xit",     "&Settings", "&Tracking Mode [T]", "&Toggle Depth Unit",
-    "&Toggle Separator", "&About",      "About &Qt", "Homepage",  "Check for &updates",
-    "&Show Vertical Section"};
-=======
 QStringList const ALWAYS{"&New Survey",
                          "New Project",
                          "E&xit",
@@ -50,9 +44,9 @@ QStringList const ALWAYS{"&New Survey",
                          "About &Qt",
                          "Homepage",
                          "Check for &updates",
+                         "&Show Vertical Section",
                          "Well Details Window",
                          "Import Well Details From JSON"};
->>>>>>> 7217c81 (Add the well details dialog, its tables and the importers' forms)
 QStringList const WITH_SURVEY{"Add LAS File to Survey",
                               "&Edit Survey Notes",
                               "Set Display Interval",
@@ -70,12 +64,6 @@ std::set<QString> const NOT_YET{"&Convert DLIS to LAS",
                                 "&Generate PDF file",
                                 "&Open Project",
                                 "&Save Project",
-<<<<<<< HEAD
-                                "Well Details Window",
-                                "Import Well Details From JSON",
-=======
-                                "&Show Vertical Section",
->>>>>>> 7217c81 (Add the well details dialog, its tables and the importers' forms)
                                 "&Screens Manager",
                                 "Calculate Well Volumes",
                                 "&DataBrowser",

@@ -16,11 +16,11 @@
 
 namespace {
 constexpr double DPI = 96;
-constexpr int PANEL_WIDTH = 150;
-constexpr int PANEL_HEIGHT = 200;
+constexpr int PANEL_WIDTH = 210;
+constexpr int PANEL_HEIGHT = 190;
 constexpr int CAPTION = 20;
 constexpr int GAP = 8;
-constexpr int COLUMNS = 7;
+constexpr int COLUMNS = 5;
 
 struct Panel
 {

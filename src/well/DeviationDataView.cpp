@@ -3,6 +3,7 @@
 
 #include "well/DeviationDataView.h"
 
+#include "app/kit/Globals.h"
 #include "app/kit/Quorrel.h"
 #include "app/kit/SettingsSingleton.h"
 #include "display/DepthGeometry.h"
@@ -26,6 +27,7 @@ DataChannelIdentifier TvdIdentifier()
 }
 QColor const deviation_color(Qt::green);
 QColor const tvd_color(Qt::cyan);
+constexpr double WIDTH_INCHES = 2;
 } // namespace
 
 DeviationDataView::DeviationDataView(QWidget* parent, QString const& name, ColumnContext const& context)
@@ -45,6 +47,11 @@ QString DeviationDataView::GetDescription() const
 QPen DeviationDataView::GetPen(DepthCurve const& curve) const
 {
     return curve.GetCurvePen();
+}
+
+QSize DeviationDataView::sizeHint() const
+{
+    return {static_cast<int>(Quorrel::DPI_X * WIDTH_INCHES), 50};
 }
 
 void DeviationDataView::SetupDataChannels()

@@ -23,6 +23,7 @@ public:
     [[nodiscard]] QString GetDescription() const override;
     void RenderToPainter(QPainter& painter, Interval const& interval, double dpi, bool on_screen) override;
     [[nodiscard]] QPen GetPen(DepthCurve const& curve) const override;
+    [[nodiscard]] QSize sizeHint() const override;
 
     /// Makes both channels from the survey as it is now and shows them on default scales. Changes nothing
     /// while the well path is the same.

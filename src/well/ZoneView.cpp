@@ -16,7 +16,8 @@
 
 namespace {
 constexpr double MARGIN_SHARE = 0.02; ///< of the width, at each side of a column
-constexpr double COLUMN_INCHES = 0.4; ///< a column's width where there is room
+constexpr double COLUMN_INCHES = 0.6; ///< a column's width where there is room
+constexpr double LEAST_INCHES = 1.2;  ///< room for two columns, before there are any
 constexpr int HIGHLIGHT_PEN = 3;
 /// Rows beyond this are far outside every window, and their differences still fit an integer.
 constexpr int FARTHEST_ROW = 1 << 24;
@@ -52,8 +53,8 @@ StatusMessage ZoneView::GetStatusMessage(int x, int y) const
 
 QSize ZoneView::sizeHint() const
 {
-    int const columns = std::max(CountNumberOfZoneColumns(), 1);
-    return {static_cast<int>(Quorrel::DPI_X * COLUMN_INCHES * columns), 50};
+    double const inches = std::max(COLUMN_INCHES * CountNumberOfZoneColumns(), LEAST_INCHES);
+    return {static_cast<int>(Quorrel::DPI_X * inches), 50};
 }
 
 QStringList ZoneView::GetHeadings() const

@@ -488,12 +488,11 @@ void BaseDataView::mouseReleaseEvent(QMouseEvent* event)
 
 void BaseDataView::MouseReleaseHorizontalZoom(int x)
 {
-    int const start = std::clamp(selection_start_x_, 0, width());
-    int const end = std::clamp(x, 0, width());
-    if (start == end) {
+    if (selection_start_x_ == x) {
         return;
     }
-    HorizontalZoom(std::min(start, end), std::max(start, end));
+    // A drag that ends beyond an edge widens the scale beyond its end there.
+    HorizontalZoom(std::min(selection_start_x_, x), std::max(selection_start_x_, x));
     emit HorizontalZoomEnd_Signal();
     UpdateScales();
     ForceRedraw();

@@ -69,6 +69,7 @@ public:
     /// \name View creation. New views are hidden; null when the factory does not make that view.
     /// @{
     BaseCombinedViewWidget* CreateDepthView(QString const& name);
+    CombinedDataViewWidget* CreateDataView(QString const& name, bool automatic);
     CombinedDataViewWidget* CreateDataView_Public(QString const& name, bool automatic);
     BaseCombinedViewWidget* CreateDeviationView(QString const& name);
     BaseCombinedViewWidget* CreateZoneView(QString const& name);
@@ -265,7 +266,6 @@ private:
     [[nodiscard]] std::optional<DataChannelIdentifier>
     ResolveIdentifier(DataChannelIdentifier const* identifier) const;
     [[nodiscard]] double ConvertYValueToDepth_metric(int y) const;
-    CombinedDataViewWidget* CreateDataView(QString const& name, bool automatic);
     AutomaticDataView* CreateAutomaticDataView_AddDepthDataByMnem(QString const& name,
                                                                   DepthLogPass const* pass);
     AutomaticDataView* CreateAutomaticDataView_AddTimeDataByMnem(QString const& view_name,

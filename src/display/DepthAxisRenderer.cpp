@@ -13,6 +13,7 @@
 namespace {
 constexpr int HALF_TICK_LENGTH = 20;
 constexpr int MINOR_TICK_LENGTH = 5;
+constexpr double SMALLEST_FONT = 0.6; ///< share of the default size, below which labels would not be legible
 
 double SettingsDepth(double metres)
 {
@@ -32,6 +33,21 @@ double ChooseStep(double span)
         return 2 * power;
     }
     return (mantissa <= 7.5 ? 5 : 10) * power;
+}
+
+/// Makes the painter's font smaller, as far as it stays legible, so that `text` fits into `width` pixels.
+void FitFont(QPainter& painter, QString const& text, int width)
+{
+    QFont font = painter.font();
+    double const size = font.pointSizeF() > 0 ? font.pointSizeF() : font.pixelSize();
+    double const smallest = SMALLEST_FONT * size;
+    double const step = size / 40;
+    double fitting = size;
+    while (painter.fontMetrics().horizontalAdvance(text) > width && fitting - step >= smallest) {
+        fitting -= step;
+        font.pointSizeF() > 0 ? font.setPointSizeF(fitting) : font.setPixelSize(qRound(fitting));
+        painter.setFont(font);
+    }
 }
 
 /// Calls `draw(depth in the settings' unit, y)` for the ticks at start + i * step that lie above the bottom
@@ -79,15 +95,19 @@ void DepthAxisRenderer::RenderToPainter(QPainter& painter, Interval const& inter
     painter.save();
     painter.fillRect(0, 0, width_, height_, color);
     painter.setPen(Qt::black);
-    QFont font;
-    if (bold) {
-        font.setWeight(QFont::Bold);
-    }
-    painter.setFont(font);
     AxisScale const scale = CalculateAxisScale(dpi, interval, height_, k);
     if (scale.step > 0) {
-        int const label_height = painter.fontMetrics().boundingRect(QStringLiteral("0")).height();
         int const decimals = scale.step > 0.9 ? 0 : 1;
+        QFont font;
+        if (bold) {
+            font.setWeight(QFont::Bold);
+        }
+        painter.setFont(font);
+        // The longest label stands at one of the two ends.
+        for (double const depth : {scale.start, SettingsDepth(interval.upper)}) {
+            FitFont(painter, Quorrel::FloatTypeToString(static_cast<float>(depth), decimals), width_);
+        }
+        int const label_height = painter.fontMetrics().boundingRect(QStringLiteral("0")).height();
         ForEachTick(scale.start, scale.step, height_, interval, [&](float depth, int y) {
             painter.drawLine(0, y, width_, y);
             painter.drawText(QRect(0, y - label_height, width_, label_height), Qt::AlignCenter,

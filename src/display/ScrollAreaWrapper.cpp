@@ -157,6 +157,11 @@ int ScrollAreaWrapper::GetSplitterIndex(QWidget const* widget) const
     return splitter_->indexOf(const_cast<QWidget*>(widget));
 }
 
+int ScrollAreaWrapper::GetSplitterWidth(int index) const
+{
+    return GetSplitterSizes().value(index);
+}
+
 QList<int> ScrollAreaWrapper::GetSplitterSizes() const
 {
     return splitter_->sizes();

@@ -55,6 +55,8 @@ public:
     /// Null for an index out of range.
     [[nodiscard]] BaseCombinedViewWidget* GetSplitterWidget(int index) const;
     [[nodiscard]] int GetSplitterIndex(QWidget const* widget) const;
+    /// Width of a pair in pixels, 0 for a hidden one and for an index out of range.
+    [[nodiscard]] int GetSplitterWidth(int index) const;
     /// Width of each pair in pixels, 0 for a hidden one.
     [[nodiscard]] QList<int> GetSplitterSizes() const;
     void SetSplitterSizes(QList<int> const& sizes);

@@ -276,6 +276,10 @@ TEST_F(DataViewTest, HorizontalZoomTakesTheDraggedValues)
         EXPECT_EQ(view->GetScales().front()->scale, Interval(25, 75));
     }
     EXPECT_EQ(User().GetScale(User().GetDepthCurves()[1]), Interval(0, 100)) << "only the selected curve";
+
+    QTest::mousePress(&User(), Qt::LeftButton, {}, QPoint(100, 20));
+    QTest::mouseRelease(&User(), Qt::LeftButton, {}, QPoint(-100, 20)); // as far outside as inside
+    EXPECT_EQ(User().GetScales().front()->scale, Interval(0, 50)) << "25 to 75 over 200 columns";
 }
 
 TEST_F(DataViewTest, BaselineStandsOnAScaleThatSpansZero)

@@ -123,6 +123,17 @@ TEST_F(BaseViewWidgetTest, SelectionBandCoversTheRowsInBlue)
     EXPECT_NEAR(image.pixelColor(199, 59).red(), 155, 1);
 }
 
+TEST_F(BaseViewWidgetTest, SelectionBandStaysWhileTheDragIsOutsideTheView)
+{
+    bench.parameters.SetVerticalZoomChecked(true);
+    view.color = Qt::white;
+    view.SetSelectionStartRow(20);
+    view.SetCursorRow(-7); // as the column reports it while the button is held above the view
+    QImage const image = view.grab().toImage();
+    EXPECT_NEAR(image.pixelColor(100, 10).red(), 155, 1);
+    EXPECT_EQ(image.pixelColor(100, 30), QColor(Qt::white));
+}
+
 TEST_F(BaseViewWidgetTest, SelectsRowsInTheVerticalModes)
 {
     QSignalSpy begin(&view, &BaseViewWidget::VerticalSelectionBegin_Signal);

@@ -134,6 +134,22 @@ TEST(DepthAxisRendererTest, FractionsOfAMetreShowOneDecimal)
               (QStringList{QStringLiteral("10"), QStringLiteral("11"), QStringLiteral("12")}));
 }
 
+TEST(DepthAxisRendererTest, LongLabelsFitIntoANarrowRuler)
+{
+    DepthUnit const metres(true);
+    for (Interval const& interval : {Interval(14000, 15000), Interval(9990, 10010), Interval(-2000, -1000)}) {
+        RecordingPaintDevice device(38, 600);
+        QPainter painter(&device);
+        DepthAxisRenderer().RenderToPainter(painter, interval, 96, 1.0, Qt::lightGray, true);
+        painter.end();
+        ASSERT_FALSE(device.GetTexts().empty());
+        for (auto const& text : device.GetTexts()) {
+            // Centred, so that it ends as far from the right edge as it begins from the left one.
+            EXPECT_GE(text.position.x(), 0) << text.text.toStdString();
+        }
+    }
+}
+
 TEST(DepthAxisRendererTest, OddIntervalsAndSizesEnd)
 {
     DepthUnit const metres(true);

@@ -276,6 +276,8 @@ private:
     void PrepareForFirstData();
     void OnChannelAdded(BaseDataView const* view);
     void RemovePair(BaseCombinedViewWidget* pair);
+    /// Gives the visible views the width they ask for, and all others an equal share of what is left.
+    void ShareWidth();
     /// Runs `change` and evaluates what the views that it shows and hides report once, at its end.
     void ChangeVisibility(std::function<void()> const& change);
     [[nodiscard]] QWidget* DialogParent() const;

@@ -101,7 +101,32 @@ void ColumnWindow::DisplayFirstCVWs()
         for (int const index : Quorrel::ChooseFirstViews(names)) {
             pairs[index]->show();
         }
+        ShareWidth();
     });
+}
+
+void ColumnWindow::ShareWidth()
+{
+    // Left to itself the splitter would give the new views no more than their least width.
+    QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
+    QList<int> sizes(pairs.size(), 0);
+    QList<int> sharing;
+    int rest = scroll_area_->GetWidth();
+    for (int i = 0; i < pairs.size(); ++i) {
+        if (pairs[i]->isHidden()) {
+            continue;
+        }
+        if (pairs[i]->sizePolicy().horizontalPolicy() == QSizePolicy::Preferred) {
+            sizes[i] = pairs[i]->sizeHint().width();
+            rest -= sizes[i];
+        } else {
+            sharing.append(i);
+        }
+    }
+    for (int const i : sharing) {
+        sizes[i] = std::max(rest / static_cast<int>(sharing.size()), 1);
+    }
+    scroll_area_->SetSplitterSizes(sizes);
 }
 
 void ColumnWindow::ChangeVisibility(std::function<void()> const& change)

@@ -7,20 +7,20 @@
 
 #include <QPainter>
 
-void ColorPickerDelegate::paint(QPainter* painter, QStyleOptionViewItem const& option,
-                                QModelIndex const& index) const
+void ColorPickerDelegate::initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const
 {
-    constexpr int margin = 3;
-    int const width = option.rect.height() * 2;
-    QRect const swatch = QRect(option.rect.topLeft(), QSize(width, option.rect.height()))
-                             .adjusted(margin, margin, -margin, -margin - 1);
-    // The base class draws ground, selection and text to the right of the swatch.
-    QStyledItemDelegate::paint(painter, option, index);
-    painter->save();
-    painter->setPen(QColor(128, 128, 128));
-    painter->setBrush(index.data(Qt::EditRole).value<QColor>());
-    painter->drawRect(swatch);
-    painter->restore();
+    QStyledItemDelegate::initStyleOption(option, index);
+    QSize const size(2 * option->fontMetrics.height(), option->fontMetrics.height());
+    QPixmap swatch(size);
+    swatch.fill(index.data(Qt::EditRole).value<QColor>());
+    QPainter painter(&swatch);
+    painter.setPen(QColor(128, 128, 128));
+    painter.drawRect(QRect(QPoint(0, 0), size - QSize(1, 1)));
+    painter.end();
+    option->features |= QStyleOptionViewItem::HasDecoration;
+    option->decorationSize = size;
+    option->icon = QIcon(swatch);
+    option->icon.addPixmap(swatch, QIcon::Selected); // not tinted
 }
 
 QWidget* ColorPickerDelegate::createEditor(QWidget* parent,

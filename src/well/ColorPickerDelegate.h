@@ -12,10 +12,11 @@ class ColorPickerDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    void paint(QPainter* painter, QStyleOptionViewItem const& option,
-               QModelIndex const& index) const override;
     [[nodiscard]] QWidget* createEditor(QWidget* parent, QStyleOptionViewItem const& option,
                                         QModelIndex const& index) const override;
     void setEditorData(QWidget* editor, QModelIndex const& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, QModelIndex const& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const override;
 };

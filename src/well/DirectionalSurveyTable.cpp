@@ -5,11 +5,14 @@
 
 #include "well/WellTablePaste.h"
 
+#include <QHeaderView>
+
 #include <stdexcept>
 
 DirectionalSurveyTable::DirectionalSurveyTable(QWidget* parent)
     : BaseTable({"MD", "Inclination", "Azimuth"}, parent)
 {
+    horizontalHeader()->setStretchLastSection(false);
 }
 
 void DirectionalSurveyTable::AssignSurveyItemVector(std::vector<DirectionalSurveyItem> const& stations)

@@ -8,4 +8,5 @@
 LineNumberArea::LineNumberArea(QWidget* viewer, std::function<void(QPaintEvent*)> paint)
     : QWidget(viewer), paint_(std::move(paint))
 {
+    setObjectName("LineNumberArea");
 }

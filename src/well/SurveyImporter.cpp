@@ -77,7 +77,6 @@ SurveyImporter::SurveyImporter(QWidget* parent)
     connect(path_, &QLineEdit::editingFinished, this, &SurveyImporter::LoadTextFile);
     connect(buttons, &QDialogButtonBox::accepted, this, &SurveyImporter::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &SurveyImporter::reject);
-    resize(800, 600);
     Quorrel::SetWindowSize(this, 0.45F, 0.6F);
 }
 

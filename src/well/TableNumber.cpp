@@ -36,8 +36,11 @@ std::optional<float> ParseDepth(QString const& text)
 
 QString DepthText(double metres, int decimals)
 {
-    return Quorrel::FloatTypeToString(Quorrel::MetricsDepthToSettingsDepth(static_cast<float>(metres)),
-                                      decimals, false);
+    float depth = Quorrel::MetricsDepthToSettingsDepth(static_cast<float>(metres));
+    if (std::fabs(depth) < 0.5 * std::pow(10, -decimals)) {
+        depth = 0; // no "-0.00" for what rounding left of a sum of lengths
+    }
+    return Quorrel::FloatTypeToString(depth, decimals, false);
 }
 
 QString FormatError(QString const& text)

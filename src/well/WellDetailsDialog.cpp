@@ -69,7 +69,6 @@ WellDetailsDialog::WellDetailsDialog(QWidget* parent, ProjectAccess& project)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(tabs_);
     layout->addLayout(bottom);
-    resize(1050, 700);
     Quorrel::SetWindowSize(this, 0.6F, 0.7F);
     Refresh();
 }

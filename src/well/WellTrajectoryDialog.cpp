@@ -23,6 +23,5 @@ WellTrajectoryDialog::WellTrajectoryDialog(DirectionalSurveyData const& survey, 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    resize(1000, 600);
     Quorrel::SetWindowSize(this, 0.55F, 0.6F);
 }

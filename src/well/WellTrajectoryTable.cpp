@@ -5,7 +5,11 @@
 
 #include "well/WellTrajectoryModel.h"
 
+#include <QHeaderView>
+
 WellTrajectoryTable::WellTrajectoryTable(std::vector<WellTrajectoryItem> const& trajectory, QWidget* parent)
     : BaseModelTable(new WellTrajectoryModel(trajectory), parent)
 {
+    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->resizeSection(7, 150);
 }

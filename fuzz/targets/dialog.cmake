@@ -1,0 +1,1 @@
+quorrel_fuzz(TablePaste quorrel_well_values)

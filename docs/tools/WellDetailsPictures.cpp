@@ -68,7 +68,7 @@ void Take(QString const& examples, QString const& images)
         project, importer,
         {.inclination = true, .perforations = true, .pipe_strings = true, .components = true});
     WellDetailsDialog dialog(nullptr, project);
-    dialog.resize(900, 560);
+    dialog.resize(960, 600);
     PasteZones(dialog, examples + "/demo-well-zones.txt");
     auto* tabs = dialog.findChild<QTabWidget*>("WellDetailsTabs");
     for (int i = 0; i < tabs->count(); ++i) {

@@ -32,7 +32,7 @@ void QuorrelFrame::OnImportWellDetails()
         return;
     }
     WellDetailsImporter const importer(path);
-    if (auto const message = WellDetailsImport::CheckTexts(importer); !message.isEmpty()) {
+    if (auto const message = WellDetailsImport::Check(importer); !message.isEmpty()) {
         QMessageBox::warning(this, tr("Import JSON Well Details File"), message);
         return;
     }

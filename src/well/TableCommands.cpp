@@ -33,7 +33,8 @@ void TableCommands::SetUpView(QTableView& view)
     view.setAlternatingRowColors(true);
     view.setWordWrap(false);
     view.horizontalHeader()->setStretchLastSection(true);
-    view.horizontalHeader()->setDefaultSectionSize(110);
+    view.horizontalHeader()->setDefaultSectionSize(95);
+    view.verticalHeader()->setDefaultSectionSize(view.fontMetrics().height() + 8);
     view.horizontalHeader()->setHighlightSections(false);
 }
 

@@ -13,6 +13,9 @@
 #include <tuple>
 
 namespace {
+/// Each string is a tab of the well details.
+constexpr std::size_t MAXIMUM_STRINGS = 1000;
+
 std::vector<DirectionalSurveyItem> Merge(std::vector<DirectionalSurveyItem> stations,
                                          std::vector<DirectionalSurveyItem> const& added)
 {
@@ -69,13 +72,19 @@ void WellDetailsImport::Apply(ProjectAccess& project, WellDetailsImporter const&
     }
 }
 
-QString WellDetailsImport::CheckTexts(WellDetailsImporter const& importer)
+QString WellDetailsImport::Check(WellDetailsImporter const& importer)
 {
+    auto const pipe_strings = importer.GetPipeStringVector();
+    if (pipe_strings.size() > MAXIMUM_STRINGS) {
+        return QStringLiteral("The file holds %1 pipe strings, more than %2.")
+            .arg(pipe_strings.size())
+            .arg(MAXIMUM_STRINGS);
+    }
     QStringList texts{importer.GetWellname()};
     for (auto const& zone : importer.GetPerforaitons()) {
         texts << zone.GetDescription();
     }
-    for (auto const& pipe_string : importer.GetPipeStringVector()) {
+    for (auto const& pipe_string : pipe_strings) {
         texts << pipe_string.GetName() << pipe_string.GetOuterCementData().first;
         for (auto const& component : pipe_string.GetComponents()) {
             texts << component.GetDescription();

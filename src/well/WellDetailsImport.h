@@ -25,6 +25,7 @@ namespace WellDetailsImport {
 /// file has one.
 void Apply(ProjectAccess& project, WellDetailsImporter const& importer, WellDetailsChoice const& choice);
 
-/// A message when a text of the file is too long for a project file, otherwise empty.
-[[nodiscard]] QString CheckTexts(WellDetailsImporter const& importer);
+/// A message when the file holds what no well and no project file can: a text too long, or more pipe
+/// strings than the well details can show. Otherwise empty.
+[[nodiscard]] QString Check(WellDetailsImporter const& importer);
 } // namespace WellDetailsImport

@@ -109,18 +109,28 @@ TEST_F(WellDetailsImportTest, TakesOnlyWhatIsChosenAndThere)
 
 TEST_F(WellDetailsImportTest, TextsTooLongForAProjectFileAreFound)
 {
-    EXPECT_EQ(WellDetailsImport::CheckTexts(importer_), "");
+    EXPECT_EQ(WellDetailsImport::Check(importer_), "");
     QByteArray const text = QByteArray("y").repeated(65536);
     for (QByteArray const& json : QList<QByteArray>{
              "{\"Well Name\": \"" + text + "\"}", "{\"Perforations\": [{\"Description\": \"" + text + "\"}]}",
              "{\"Tubing String\": {\"Component List\": [{\"Description\": \"" + text + "\"}]}}",
              "{\"Casing Strings\": [{\"Outer Cement Description\": \"" + text + "\"}]}",
              "{\"Misc Well Components\": [{\"Description\": \"" + text + "\"}]}"}) {
-        EXPECT_EQ(WellDetailsImport::CheckTexts(WellDetailsImporter::FromJson(json)),
+        EXPECT_EQ(WellDetailsImport::Check(WellDetailsImporter::FromJson(json)),
                   "The text beginning with \"" + QString("y").repeated(40) +
                       "...\" is too long for a project file: 65536 bytes of at most 65535. Please shorten "
                       "the text.");
     }
+}
+
+TEST_F(WellDetailsImportTest, ThousandsOfStringsAreNoWell)
+{
+    auto const make = [](int count) {
+        return WellDetailsImporter::FromJson("{\"Casing Strings\": [" + QByteArray("{},").repeated(count) +
+                                             "{}]}");
+    };
+    EXPECT_EQ(WellDetailsImport::Check(make(999)), "");
+    EXPECT_EQ(WellDetailsImport::Check(make(1000)), "The file holds 1001 pipe strings, more than 1000.");
 }
 
 TEST(JsonImporterDialog, OffersWhatTheFileHas)

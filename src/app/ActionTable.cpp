@@ -17,8 +17,8 @@ std::span<ActionDefinition const> ActionTable()
     static std::array const table{
         // id, text, icon, key, checkable, status tip, menu, tool bar, available, separator before
         ActionDefinition{Id::NewProject, "New Project", "New Project.svg", no_key, false, "", Menu::File, Bar::File, On::Always, false},
-        ActionDefinition{Id::OpenProject, "&Open Project", "Open Project.svg", no_key, false, "", Menu::File, Bar::File, On::NotYet, false},
-        ActionDefinition{Id::SaveProject, "&Save Project", "Save Project.svg", QKeySequence(Qt::CTRL | Qt::Key_S), false, "", Menu::File, Bar::File, On::NotYet, true},
+        ActionDefinition{Id::OpenProject, "&Open Project", "Open Project.svg", no_key, false, "", Menu::File, Bar::File, On::Always, false},
+        ActionDefinition{Id::SaveProject, "&Save Project", "Save Project.svg", QKeySequence(Qt::CTRL | Qt::Key_S), false, "", Menu::File, Bar::File, On::Always, true},
         ActionDefinition{Id::NewSurvey, "&New Survey", "New Survey.svg", QKeySequence(QKeySequence::New), false, "New Survey", Menu::File, Bar::File, On::Always, true},
         ActionDefinition{Id::AddLasFile, "Add LAS File to Survey", "Add LAS File.svg", no_key, false, "", Menu::File, Bar::Survey, On::Survey, false},
         ActionDefinition{Id::ConvertDlis, "&Convert DLIS to LAS", "Convert DLIS.svg", no_key, false, "", Menu::File, Bar::File, On::NotYet, false},
@@ -57,7 +57,7 @@ std::span<ActionDefinition const> ActionTable()
         ActionDefinition{Id::ToggleSeparator, "&Toggle Separator", "Separator_Period.svg", no_key, true, "", Menu::View, Bar::Settings, On::Always, false},
         ActionDefinition{Id::DataBrowser, "&DataBrowser", "DataBrowser.svg", no_key, false, "", Menu::View, Bar::Survey, On::NotYet, true},
         ActionDefinition{Id::DataViewSelector, "Change Visible Dataviews", "Change Visible Dataviews.svg", no_key, false, "Open DataView Selector", Menu::View, Bar::Survey, On::NotYet, false},
-        ActionDefinition{Id::ScreensManager, "&Screens Manager", "Screens Manager.svg", no_key, false, "", Menu::View, Bar::Screens, On::NotYet, false},
+        ActionDefinition{Id::ScreensManager, "&Screens Manager", "Screens Manager.svg", no_key, false, "", Menu::View, Bar::Screens, On::Survey, false},
         ActionDefinition{Id::ShowVerticalSection, "&Show Vertical Section", "Show Vertical Section.svg", no_key, false, "", Menu::View, Bar::Well, On::Always, true},
         ActionDefinition{Id::Show3dTrajectory, "&Show 3D Well Trajectory", "Show 3D Well Trajectory.svg", no_key, false, "", Menu::View, Bar::Well, On::NotYet, false},
         ActionDefinition{Id::MfcMode, "&MFC Mode [M]", "MFC Mode.svg", QKeySequence(Qt::Key_M), true, "", Menu::View, Bar::Caliper, On::CaliperView, true},

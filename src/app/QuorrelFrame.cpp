@@ -51,6 +51,10 @@ void OpenTimeLogChart(TimeLogChart const& data, QWidget* parent)
 }
 } // namespace
 
+namespace {
+constexpr QSize DEFAULT_SIZE(1200, 800);
+} // namespace
+
 QuorrelFrame::QuorrelFrame(QWidget* parent)
     : QMainWindow(parent),
       recent_files_(std::make_unique<RecentFiles>()),
@@ -79,6 +83,7 @@ QuorrelFrame::QuorrelFrame(QWidget* parent)
     setObjectName("MainWindow");
 
     SetQuorrelTitle(false);
+    resize(DEFAULT_SIZE);
     InitialWindowResize();
     ClearAll();
     UpdateMfcMenuBar();
@@ -119,6 +124,9 @@ void QuorrelFrame::CreateActions()
     };
     on(ActionId::NewSurvey, &QuorrelFrame::OnNewSurvey);
     on(ActionId::NewProject, &QuorrelFrame::OnNewProject);
+    on(ActionId::OpenProject, &QuorrelFrame::OnLoadProject);
+    on(ActionId::SaveProject, &QuorrelFrame::OnSaveProject);
+    on(ActionId::ScreensManager, &QuorrelFrame::OnScreensManager);
     on(ActionId::AddLasFile, &QuorrelFrame::OnImport);
     on(ActionId::Exit, &QuorrelFrame::OnClose);
     on(ActionId::SetDisplayInterval, &QuorrelFrame::OnSetDisplayInterval);
@@ -206,6 +214,7 @@ void QuorrelFrame::CreateToolBars()
     screens_combo_box_->setWindowTitle(tr("Select stored screen"));
     screens_combo_box_->setMinimumContentsLength(12);
     screens_tool_bar_->addWidget(screens_combo_box_);
+    connect(screens_combo_box_, &QComboBox::textActivated, this, &QuorrelFrame::OnScreensComboboxSelection);
     actions_->AddToToolBar(ToolBarId::Screens, screens_tool_bar_);
     actions_->AddToToolBar(ToolBarId::Settings, settings_tool_bar_);
     actions_->AddToToolBar(ToolBarId::Well, well_tool_bar_);

@@ -6,6 +6,7 @@
 #include "app/kit/DisableToken.h"
 #include "display/ColumnWindowMap.h"
 #include "formats/las/LASFile.h"
+#include "formats/project/ProjectFile.h"
 #include "model/ProjectAccess.h"
 #include "well/Zone.h"
 
@@ -14,6 +15,7 @@
 
 #include <memory>
 
+class BusyOverlay;
 class ColorScheme;
 class ColumnWindow;
 class FrameActions;
@@ -32,18 +34,14 @@ struct FrameState;
 /// go through the forwarding functions of ProjectAccess; each write marks the project as modified.
 ///
 /// Its slots stand in several sources by topic: QuorrelFrame.cpp (construction, tools, title),
-/// QuorrelFrameSurveys.cpp, QuorrelFramePasses.cpp, QuorrelFrameImport.cpp, QuorrelFrameWell.cpp,
-/// QuorrelFrameWellDetails.cpp and
-/// QuorrelFrameUpdates.cpp.
+/// QuorrelFrameSurveys.cpp, QuorrelFramePasses.cpp, QuorrelFrameImport.cpp, QuorrelFrameProject.cpp,
+/// QuorrelFrameWell.cpp, QuorrelFrameWellDetails.cpp and QuorrelFrameUpdates.cpp.
 class QuorrelFrame : public QMainWindow, public ProjectAccess
 {
     Q_OBJECT
 public:
     explicit QuorrelFrame(QWidget* parent = nullptr);
     ~QuorrelFrame() override;
-
-    /// Opens a project file in place of the present project.
-    void LoadProject(QString const& path);
 
     [[nodiscard]] KeyType GetCurrentSurveyKey() const;
     [[nodiscard]] QString GetCurrentLogIdentifierHash() const;
@@ -73,10 +71,26 @@ public:
 signals:
     void SeparatorChange_Signal();
     void LasFileFinishedLoading_Signal();
+    /// A save or an open has ended, also with an error, after its message.
+    void ProjectSaved_Signal(bool success);
+    void ProjectLoaded_Signal(bool success);
 
 public slots:
     void OnNewSurvey();
     void OnNewProject();
+    void OnSaveProject();
+    void OnLoadProject();
+    /// Opens a project file in place of the present project.
+    void LoadProject(QString const& path);
+    /// Saves on a worker thread; ProjectSaved_Signal tells the end.
+    void SaveProject(QString const& path);
+    void OnProjectSaved(QString const& path, bool success, QString const& message);
+    void OnQz4FileLoaded(QString const& path,
+                         std::shared_ptr<project_file::ColumnWindowRecords> const& windows,
+                         int current_survey_key, bool success, QString const& message);
+    void OnScreensManager();
+    void UpdateScreensCombobox();
+    void OnScreensComboboxSelection(QString const& name);
     void OnImport();
     void OnLasFileLoaded(std::shared_ptr<LASFile> file, QString const& path, bool ok, QString const& error,
                          DisableToken token);
@@ -152,6 +166,10 @@ private:
     void RedrawCurrentColumnWindow();
 
     void ClearAll();
+    /// Veils the frame and takes its keys while a worker has the model.
+    void SetBusy(bool busy);
+    void AdjustForFileChange(QString const& path);
+    void RestoreGuiAfterDatacontainerLoad();
     void CreateColumnWindow(KeyType key);
     void SetupNewSurvey(KeyType key, QString const& name);
     [[nodiscard]] ColumnContext MakeColumnContext(KeyType key) const;
@@ -186,6 +204,7 @@ private:
     QHBoxLayout* central_layout_ = nullptr;
     QPointer<ColumnWindow> current_column_window_;
     QString project_file_name_;
+    QPointer<BusyOverlay> busy_overlay_;
     bool undo_available_ = false;
     bool redo_available_ = false;
     std::unique_ptr<RecentFiles> recent_files_;

@@ -10,6 +10,7 @@
 #include "display/ColumnWindow.h"
 #include "display/ViewFactory.h"
 
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -108,6 +109,7 @@ void QuorrelFrame::OnSurveyComboBoxSelection(int index)
         current_column_window_->show();
         current_column_window_->UpdateUndoRedoStatus();
     }
+    UpdateScreensCombobox();
     UpdatePassComboBox();
     UpdateMfcMenuBar();
 }
@@ -143,6 +145,7 @@ void QuorrelFrame::ClearAll()
 {
     survey_combo_box_->ClearSurveyComboBox();
     log_pass_combo_box_->ClearLogPassComboBox();
+    screens_combo_box_->clear();
     ResetCheckablePushButtons(nullptr);
     column_windows_.Clear();
     undo_available_ = redo_available_ = false;

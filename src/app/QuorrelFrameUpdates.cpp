@@ -11,7 +11,7 @@
 #include <QMessageBox>
 #include <QUrl>
 
-// Help menu of the main frame, the update check, and the project flows that are not there yet.
+// Help menu of the main frame and the update check.
 
 void QuorrelFrame::OnAbout()
 {
@@ -41,10 +41,4 @@ VersionCheck* QuorrelFrame::MakeVersionCheck()
     });
     connect(check, &VersionCheck::Finished_Signal, check, &QObject::deleteLater);
     return check;
-}
-
-void QuorrelFrame::LoadProject(QString const& path)
-{
-    OnNewProject();
-    QMessageBox::warning(this, tr("Warning"), tr("This build cannot open project files yet: ") + path);
 }

@@ -6,7 +6,7 @@
 #include "app/kit/SettingsSingleton.h"
 #include "display/ColumnWindow.h"
 #include "display/ViewFactory.h"
-#include "display/ViewObjectNames.h"
+#include "model/ViewObjectNames.h"
 #include "display/XYChart.h"
 #include "well/DeviationDataView.h"
 #include "well/DirectionalSurveyData.h"

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "model/ViewObjectNames.h"
 #include "display/IntermediateDataView.h"
 
 /// The view the program makes by itself for one mnemonic: one shared scale, one curve per log pass in the
@@ -11,7 +12,7 @@ class AutomaticDataView final : public IntermediateDataView
 {
     Q_OBJECT
 public:
-    inline static QString const OBJECT_NAME_ = QStringLiteral("VIEW_WIDGET_AUTOMATIC_DATAVIEW");
+    inline static QString const OBJECT_NAME_ = view_object_names::AUTOMATIC;
 
     AutomaticDataView(QWidget* parent, QString const& name, ColumnContext const& context);
 

@@ -3,7 +3,7 @@
 
 #include "display/BaseCurve.h"
 
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 
 BaseCurve::BaseCurve() : scale_item_(std::make_shared<ScaleItemParameters>()) {}
 

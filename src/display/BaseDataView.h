@@ -6,7 +6,7 @@
 #include "display/BaseViewWidget.h"
 #include "display/ColumnContext.h"
 #include "display/DepthCurveVector.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 #include "display/TimeCurveVector.h"
 #include "model/BaseDepthDataChannel.h"
 #include "model/DataChannelIdentifier.h"
@@ -23,6 +23,7 @@
 #include <utility>
 #include <vector>
 
+struct BASE_DATAVIEW_STRUCT;
 struct DepthMarker;
 
 /// Shows channels against the shared depth scale: holds the curves with their scales and the mouse tools
@@ -111,6 +112,10 @@ public:
     /// Builds the curves' bins anew after their samples were changed; bins exist only while the view is
     /// shown.
     void ProcessCurves();
+
+    /// Name, markers and baseline, to and from the record of a project file.
+    void WriteState_BaseDataView(BASE_DATAVIEW_STRUCT& record) const;
+    void RestoreState_BaseDataView(BASE_DATAVIEW_STRUCT const& record);
 
 signals:
     void ShiftStarted_Signal();

@@ -13,7 +13,7 @@
 #include "display/ScrollAreaWrapper.h"
 #include "display/UserDataView.h"
 #include "display/ViewFactory.h"
-#include "display/ViewObjectNames.h"
+#include "model/ViewObjectNames.h"
 
 #include <QInputDialog>
 #include <QWheelEvent>
@@ -99,6 +99,7 @@ void ColumnWindow::ConnectScrollArea()
             &ColumnWindow::ShowUserDataViewProperties_Signal);
     connect(area, &Area::DataChannelDroppedOnUserDataView_Signal, this,
             &ColumnWindow::DataChannelDroppedOnUserDataView_Signal);
+    connect(area, &Area::SplitterMoved_Signal, this, [this] { restored_layout_.reset(); });
     connect(&undo_redo_, &UndoRedo::UpdateUndoRedoStatus_Signal, this,
             &ColumnWindow::UpdateUndoRedoStatus_Signal);
 }

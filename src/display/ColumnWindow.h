@@ -10,7 +10,8 @@
 #include "display/BaseViewWidgetParameters.h"
 #include "display/ColumnContext.h"
 #include "display/ColumnSlots.h"
-#include "display/FillAreaDefinition.h"
+#include "display/ScreensMap.h"
+#include "model/FillAreaDefinition.h"
 #include "model/DataChannelIdentifier.h"
 #include "well/Zone.h"
 
@@ -23,6 +24,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 #include <vector>
 
 class AutomaticDataView;
@@ -39,6 +42,8 @@ class TimeLog;
 class TimeLogDataChannel;
 class UserDataView;
 class ViewFactory;
+struct COLUMN_WINDOW_Struct;
+struct VIEW_WIDGET_BASE_STRUCT;
 
 /// The display of one survey: its views side by side, the depth range they all show, the shared cursor, the
 /// mouse modes and the undo list. Zoom and scroll are decided here and never by a single view. All depths in
@@ -192,6 +197,26 @@ public:
     void RefreshDataViews() override;
     /// @}
 
+    /// \name Stored screens. An unknown name changes nothing.
+    /// @{
+    /// Names, order and widths of the views under `name`, in place of a screen of that name.
+    void SaveScreen(QString const& name);
+    /// Shows the screen's views that still exist, in its order and widths, and hides all others.
+    void RestoreScreen(QString const& name);
+    void DeleteScreen(QString const& name);
+    [[nodiscard]] QStringList GetScreenNames() const;
+    [[nodiscard]] ScreensMap& GetScreens() { return screens_; }
+    /// @}
+
+    /// \name State for the project file
+    /// @{
+    [[nodiscard]] COLUMN_WINDOW_Struct WriteState_ColumnWindow() const;
+    /// Widths, screens and depths; the views are there already, in their order.
+    void RestoreState_ColumnWindow(COLUMN_WINDOW_Struct const& record);
+    /// Keeps the record of a view that cannot be built, to be written again at this place.
+    void CarryView(std::shared_ptr<VIEW_WIDGET_BASE_STRUCT> record, int index);
+    /// @}
+
     /// Replaces the question for the stretch anchor.
     void SetAskAnchor(AskAnchor ask) { ask_anchor_ = std::move(ask); }
 
@@ -274,6 +299,8 @@ private:
     [[nodiscard]] BaseDataView* FindDataViewForChannels(QString const& name);
     void ConnectComponentClicks(BaseCombinedViewWidget* pair);
     void PrepareForFirstData();
+    /// Views with a width of their own take it; the others share the rest evenly.
+    void ShareWidth();
     void OnChannelAdded(BaseDataView const* view);
     void RemovePair(BaseCombinedViewWidget* pair);
     /// Gives the visible views the width they ask for, and all others an equal share of what is left.
@@ -281,6 +308,27 @@ private:
     /// Runs `change` and evaluates what the views that it shows and hides report once, at its end.
     void ChangeVisibility(std::function<void()> const& change);
     [[nodiscard]] QWidget* DialogParent() const;
+
+    [[nodiscard]] std::shared_ptr<VIEW_WIDGET_BASE_STRUCT>
+    WriteDataViewState(BaseCombinedViewWidget const& pair) const;
+    /// Name of each view and whether it is hidden, in splitter order.
+    [[nodiscard]] QList<std::pair<QString, bool>> CurrentLayout() const;
+    /// The widths of the project file, as long as nobody changed the layout since; a window of another size
+    /// shows them in proportion.
+    [[nodiscard]] std::optional<QList<int>> UnchangedRestoredSizes() const;
+    void ApplyRestoredSizes();
+
+    struct CarriedView
+    {
+        std::shared_ptr<VIEW_WIDGET_BASE_STRUCT> record;
+        int index;
+        int splitter_size;
+    };
+    struct RestoredLayout
+    {
+        QList<int> sizes;
+        QList<std::pair<QString, bool>> layout;
+    };
 
     std::unique_ptr<ScrollAreaWrapper> scroll_area_;
     ColumnContext context_;
@@ -293,4 +341,7 @@ private:
     bool override_automatic_interval_ = false;
     bool is_changing_visibility_ = false;
     AskAnchor ask_anchor_;
+    ScreensMap screens_;
+    std::vector<CarriedView> carried_views_;
+    std::optional<RestoredLayout> restored_layout_;
 };

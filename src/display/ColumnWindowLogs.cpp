@@ -8,7 +8,7 @@
 #include "display/CombinedDataViewWidget.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/UserDataView.h"
-#include "display/ViewObjectNames.h"
+#include "model/ViewObjectNames.h"
 #include "model/DepthLogPass.h"
 #include "model/TimeLog.h"
 

@@ -144,6 +144,7 @@ void ColumnWindow::OnscrollContentsBy(int /*dx*/, int /*dy*/)
 
 void ColumnWindow::OnScrollAreaShowEvent()
 {
+    ApplyRestoredSizes();
     OnScaleHeightChanged();
     UpdateScrollBar();
 }

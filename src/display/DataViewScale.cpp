@@ -4,7 +4,7 @@
 #include "display/DataViewScale.h"
 
 #include "display/ScaleItem.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 
 #include <QVBoxLayout>
 

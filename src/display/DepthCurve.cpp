@@ -4,7 +4,7 @@
 #include "display/DepthCurve.h"
 
 #include "display/CurveBinning.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 #include "model/BaseDepthDataChannel.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "app/kit/Interval.h"
-#include "display/FillAreaDefinition.h"
+#include "model/FillAreaDefinition.h"
 
 #include <QPointF>
 

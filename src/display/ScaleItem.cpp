@@ -4,7 +4,7 @@
 #include "display/ScaleItem.h"
 
 #include "app/kit/SettingsSingleton.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 
 #include <QFontMetricsF>
 #include <QMouseEvent>

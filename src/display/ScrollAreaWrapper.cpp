@@ -14,7 +14,7 @@
 #include "display/UserCombinedViewWidget.h"
 #include "display/UserDataView.h"
 #include "display/ViewFactory.h"
-#include "display/ViewObjectNames.h"
+#include "model/ViewObjectNames.h"
 
 #include <QHBoxLayout>
 #include <QScrollBar>
@@ -39,6 +39,7 @@ ScrollAreaWrapper::ScrollAreaWrapper(QObject* parent)
     auto* layout = new QHBoxLayout(scroll_area_->viewport());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(splitter_);
+    connect(splitter_, &QSplitter::splitterMoved, this, &ScrollAreaWrapper::SplitterMoved_Signal);
 
     MyAbstractScrollArea* area = scroll_area_;
     connect(area, &MyAbstractScrollArea::OnShowEvent_Signal, this, &ScrollAreaWrapper::OnShowEvent_Signal);

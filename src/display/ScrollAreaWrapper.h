@@ -98,6 +98,8 @@ public:
     [[nodiscard]] QWidget* GetDialogParent() const;
 
 signals:
+    /// The user moved a handle between two views.
+    void SplitterMoved_Signal();
     void OnShowEvent_Signal();
     void OnScrollZoomEvent_Signal(QWheelEvent* event);
     void OnscrollContentsBy_Signal(int dx, int dy);

@@ -4,7 +4,7 @@
 #include "display/TimeCurve.h"
 
 #include "display/CurveBinning.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 #include "model/TimeLogDataChannel.h"
 
 #include <cmath>

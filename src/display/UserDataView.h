@@ -3,16 +3,19 @@
 
 #pragma once
 
-#include "display/FillAreaDefinition.h"
+#include "model/ViewObjectNames.h"
+#include "model/FillAreaDefinition.h"
 #include "display/FillAreaSource.h"
 #include "display/IntermediateDataView.h"
+
+struct USER_DATAVIEW_STRUCT;
 
 /// A view the user composes: one scale and one pen per curve, area fills, and channels by drag and drop.
 class UserDataView final : public IntermediateDataView, public FillAreaSource
 {
     Q_OBJECT
 public:
-    inline static QString const OBJECT_NAME_ = QStringLiteral("VIEW_WIDGET_USER_DATAVIEW");
+    inline static QString const OBJECT_NAME_ = view_object_names::USER;
 
     UserDataView(QWidget* parent, QString const& name, ColumnContext const& context);
 
@@ -36,6 +39,10 @@ public:
                            Interval const& interval, std::vector<QPointF>& points) override;
     [[nodiscard]] Interval GetCurveScale(DataChannelIdentifier const& identifier) const override;
     [[nodiscard]] std::vector<DataChannelIdentifier> GetDataChannelIDs() const;
+
+    /// The intermediate view's state, the channels and the fills, to and from the record of a project file.
+    void WriteState_UserDataView(USER_DATAVIEW_STRUCT& record) const;
+    void RestoreState_UserDataView(USER_DATAVIEW_STRUCT const& record);
 
 signals:
     void DataChannelDroppedOnUserDataView_Signal(QString const& view,

@@ -13,6 +13,8 @@
 #include <memory>
 #include <vector>
 
+class QZ4SaveFile;
+
 class LASFile;
 struct BASE_LOGPASS_STRUCT;
 
@@ -66,6 +68,9 @@ public:
     /// Fills leading nulls with the first good sample, trailing ones with the last and gaps with the sample
     /// before them. A vector of nothing but nulls stays; NaN is not null.
     static void RemoveIllegalValues(SampleVector& samples, DataValueType null_value);
+
+    /// To the project file; defined with its format.
+    void WriteState_BaseLog(QZ4SaveFile& file) const;
 
 protected:
     /// Gives every curve exactly `count` samples, so that samples and axis can be walked side by side.

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+class QZ4SaveFile;
+
 /// The depth and time logs of a survey as one collection; decides for each call which of the two is meant.
 /// Here a LASFile becomes a log. Where a hash is needed and neither map holds it: std::runtime_error.
 class CombinedLogMap final : public LogPassMapSignals
@@ -75,6 +77,9 @@ public:
 
     [[nodiscard]] DepthLogPassMap const& GetDepthLogPasses() const { return depth_logs_; }
     [[nodiscard]] TimeLogMap const& GetTimeLogs() const { return time_logs_; }
+
+    /// To the project file; defined with its format.
+    void WriteState_CombinedLogMap(QZ4SaveFile& file) const;
 
 private:
     TimeLogMap time_logs_;

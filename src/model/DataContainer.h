@@ -11,6 +11,8 @@
 #include "well/Zone.h"
 #include "well/ZoneTrack.h"
 
+class QZ4SaveFile;
+
 /// The one model of a project: its surveys, and the data of the well, which are common to all surveys.
 ///
 /// An operation on a survey that does not exist does nothing and returns an empty value (null, an empty list
@@ -162,6 +164,9 @@ public:
     void SetMarkersA(QList<DepthMarker> const& markers) { markers_a_ = markers; }
     [[nodiscard]] QList<DepthMarker> const& GetMarkersB() const { return markers_b_; }
     void SetMarkersB(QList<DepthMarker> const& markers) { markers_b_ = markers; }
+
+    /// One survey, to the project file; defined with its format.
+    void WriteState_DataContainer(int survey_key, QZ4SaveFile& file) const;
 
 private:
     QString well_name_;

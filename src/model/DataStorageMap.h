@@ -11,6 +11,8 @@
 #include <map>
 #include <memory>
 
+class QZ4SaveFile;
+
 /// Stands for the hash of a log in the identifiers of storage channels.
 inline constexpr char DATA_STORAGE_HASH[] = "DATA_STORAGE_IDENTIFIER";
 
@@ -36,6 +38,9 @@ public:
     [[nodiscard]] QString GenerateUniqueStorageChannelName(QString const& name) const;
     /// Returns the name actually used. @throws std::out_of_range "map::at"
     QString RenameStorageDataChannel(DataChannelIdentifier const& identifier, QString const& name);
+
+    /// To the project file; defined with its format.
+    void WriteState_DataStorageMap(QZ4SaveFile& file) const;
 
 private:
     [[nodiscard]] QSet<QString> GetNames() const;

@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+class QZ4SaveFile;
+
 /// The depth axis of a log, shared by all its channels. Keeps the depths as they stood in the file and, side
 /// by side, the metric and imperial depths after shift and stretch. The two working vectors are always
 /// replaced by new ones, never changed in place, so that a reader that holds a former vector keeps valid
@@ -63,6 +65,9 @@ public:
     [[nodiscard]] DepthType GetDepthStep_metric() const;
     /// Index by the average step, not a search: 0 above the first depth, the last index below the last depth.
     [[nodiscard]] std::size_t GetIndexAtDepth(double depth) const;
+
+    /// To the project file; defined with its format.
+    void WriteState_DepthChannel(QZ4SaveFile& file) const;
 
 private:
     void AssignAndConvertDepth();

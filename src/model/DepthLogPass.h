@@ -7,6 +7,8 @@
 #include "model/DepthLogDataChannel.h"
 #include "model/GenericLogPass.h"
 
+class QZ4SaveFile;
+
 /// A log over depth; all its channels share one depth axis.
 class DepthLogPass final : public GenericLogPass<DepthLogDataChannel>
 {
@@ -32,6 +34,9 @@ public:
     }
     /// Note the order: stretch, then shift (metres).
     void SetDepthStretchShift(double stretch, double shift) { depth_.SetDepthStretchShift(stretch, shift); }
+
+    /// The axis, to the project file; defined with its format.
+    void WriteState_SpecializedLogPass(QZ4SaveFile& file) const;
 
 private:
     void ProcessLogPassData();

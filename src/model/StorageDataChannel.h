@@ -6,6 +6,8 @@
 #include "model/BaseDepthDataChannel.h"
 #include "model/DataStorageChannelRecord.h"
 
+class QZ4SaveFile;
+
 class DepthLogPass;
 
 /// A free-standing calculated channel held in a survey's storage, with a depth axis of its own.
@@ -49,6 +51,9 @@ public:
     /// Takes the target's depth axis and this channel's values at its depths.
     /// @throws std::invalid_argument without depth overlap
     void ResampleDepth(BaseDepthDataChannel const* target);
+
+    /// To the project file; defined with its format.
+    void WriteState_StorageDataChannel(QZ4SaveFile& file) const;
 
     static LogPassProperties dummy_log_pass_properties_;
 

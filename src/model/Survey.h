@@ -11,6 +11,8 @@
 #include <QList>
 #include <QString>
 
+class QZ4SaveFile;
+
 /// The logs of one logging job, the channels calculated from them and their interpretation. Where a log's
 /// hash is unknown: std::runtime_error; a bad channel index or storage key: std::out_of_range.
 class Survey
@@ -124,6 +126,9 @@ public:
     void AddInterpretationZone(Zone const& zone) { interpretation_zones_.append(zone); }
     [[nodiscard]] InterpretationParameters const& GetInterpretationParameters() const { return parameters_; }
     void SetInterpretationParameters(InterpretationParameters const& parameters) { parameters_ = parameters; }
+
+    /// To the project file; defined with its format.
+    void WriteState_Survey(QZ4SaveFile& file) const;
 
 private:
     CombinedLogMap logs_;

@@ -6,6 +6,8 @@
 #include "model/GenericLogPass.h"
 #include "model/TimeLogDataChannel.h"
 
+class QZ4SaveFile;
+
 /// A log over time, measured with the tool standing at one depth.
 class TimeLog final : public GenericLogPass<TimeLogDataChannel>
 {
@@ -21,6 +23,9 @@ public:
     /// Metres.
     [[nodiscard]] float GetLogDepth() const { return log_depth_; }
     void SetLogDepth(float log_depth_metres) { log_depth_ = log_depth_metres; }
+
+    /// The axis, to the project file; defined with its format.
+    void WriteState_SpecializedLogPass(QZ4SaveFile& file) const;
 
 private:
     void GenerateTimeLogDataChannels();

@@ -8,7 +8,7 @@
 #include "display/BaseCombinedViewWidget.h"
 #include "display/BaseScaleView.h"
 #include "display/ColumnWindow.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/XYChart.h"
 #include "model/DepthLogPass.h"
@@ -31,6 +31,7 @@
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTest>
+#include <QThread>
 #include <QToolBar>
 
 namespace {
@@ -108,6 +109,8 @@ protected:
         QSignalSpy finished(frame_.get(), &QuorrelFrame::LasFileFinishedLoading_Signal);
         Action("Add LAS File to Survey")->trigger();
         EXPECT_TRUE(WaitFor([&] { return finished.count() >= paths.size(); }));
+        // A reader that is not gone yet still keeps undo from recording.
+        EXPECT_TRUE(WaitFor([&] { return frame_->findChildren<QThread*>().isEmpty(); }));
         return {dialogs.GetTitles(), dialogs.GetMessages()};
     }
 

@@ -6,7 +6,7 @@
 #include "ViewBench.h"
 #include "display/ChannelsScaleWidget.h"
 #include "display/ScaleEditTarget.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

@@ -4,7 +4,7 @@
 #include "display/ColumnFixture.h"
 
 #include "display/BaseScaleView.h"
-#include "display/ViewObjectNames.h"
+#include "model/ViewObjectNames.h"
 
 #include <QHBoxLayout>
 #include <QPainter>

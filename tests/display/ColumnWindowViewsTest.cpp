@@ -5,7 +5,7 @@
 
 #include "display/BaseScaleView.h"
 #include "display/CombinedDataViewWidget.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 
 #include <QScrollBar>
 

@@ -7,7 +7,7 @@
 #include "display/DepthAxisScale.h"
 #include "display/DepthUnitLabel.h"
 #include "display/ScaleItem.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 #include "display/ScaleLabel.h"
 
 #include <QAbstractScrollArea>

@@ -5,7 +5,7 @@
 
 #include "display/CurveSupport.h"
 #include "display/DepthCurveVector.h"
-#include "display/ScaleItemParameters.h"
+#include "model/ScaleItemParameters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Quorrel authors
 // SPDX-License-Identifier: MIT
 
-#include "display/FillAreaDefinition.h"
+#include "model/FillAreaDefinition.h"
 
 #include <array>
 #include <stdexcept>

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "formats/project/ViewRecords.h"
+
+#include <QList>
+#include <QStringList>
+
+class BaseCombinedViewWidget;
+class ColumnWindow;
+class ProjectAccess;
+
+/// Rebuilds the views of one column from the records of a project file. Views that every column has (depth,
+/// zones, deviation, sketch) are used again, never doubled. Main thread only.
+class ColumnRestorer final : public ViewRestorer
+{
+public:
+    ColumnRestorer(ColumnWindow& column, ProjectAccess const& project) : column_(column), project_(project) {}
+
+    /// Returns a warning for each view that could not be made; the rest is restored.
+    [[nodiscard]] QStringList RestoreColumnWindow(COLUMN_WINDOW_Struct const& record);
+
+    void CreateAndRestoreAutomaticDataView(INTERMEDIATE_DATAVIEW_STRUCT const& record) override;
+    void CreateAndRestoreDeviationDataView(BASE_DATAVIEW_STRUCT const& record) override;
+    void CreateAndRestoreUserDataView(USER_DATAVIEW_STRUCT const& record) override;
+    void CreateAndRestoreImageDataView(IMAGE_DATAVIEW_STRUCT const& record) override;
+    void CreateAndRestoreMfcDataView(MFC_DATAVIEW_STRUCT const& record) override;
+    void CreateAndRestoreViewWidget(VIEW_WIDGET_STRUCT const& record) override;
+
+private:
+    /// An existing view of this kind and, where several could be, this name; null without one.
+    [[nodiscard]] BaseCombinedViewWidget* FindView(QString const& object_name, QString const& name) const;
+    void AddChannelsByMnemonic(QString const& name);
+
+    ColumnWindow& column_;
+    ProjectAccess const& project_;
+    QList<BaseCombinedViewWidget*> order_;
+    QStringList warnings_;
+    int index_ = 0; ///< of the record in work
+};

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: The Quorrel authors
+// SPDX-License-Identifier: MIT
+
+#include "formats/project/ProjectFile.h"
+
+#include "app/kit/TemporaryFile.h"
+#include "formats/project/QZ4LoadFile.h"
+#include "formats/project/QZ4SaveFile.h"
+#include "model/DataContainer.h"
+
+#include <stdexcept>
+
+namespace {
+void Write(QString const& path, DataContainer const& container,
+           project_file::ColumnWindowRecords const& windows, int current_survey_key)
+{
+    QZ4SaveFile file(path);
+    auto const keys = container.GetAllSurveyKeys();
+    file.SaveMain(current_survey_key, static_cast<int>(keys.size()), container);
+    for (auto const key : keys) {
+        file.SaveSurveyNamesAndKeys(key, container.GetSurveyName(key));
+        container.WriteState_DataContainer(key, file);
+    }
+    for (auto const key : keys) {
+        auto const window = windows.find(key);
+        file.SaveColumnWindow(window == windows.end() ? COLUMN_WINDOW_Struct() : window->second);
+    }
+    file.Close();
+}
+
+void RestoreDepthLogPasses(QZ4LoadFile& file, DataContainer& container, int key)
+{
+    for (auto count = file.LoadGenericLogPassMap(); count > 0; --count) {
+        auto record = file.LoadBaseLogPass();
+        auto columns = file.LoadGenericLogPass();
+        auto depth = file.LoadBaseDepthChannel();
+        container.AddDepthLogPass(key,
+                                  std::make_shared<DepthLogPass>(record, std::move(columns), depth.is_metric,
+                                                                 depth.shift, depth.stretch, depth.depths));
+    }
+}
+
+void RestoreTimeLogs(QZ4LoadFile& file, DataContainer& container, int key)
+{
+    for (auto count = file.LoadGenericLogPassMap(); count > 0; --count) {
+        auto record = file.LoadBaseLogPass();
+        auto columns = file.LoadGenericLogPass();
+        auto time = file.LoadTimeLog();
+        container.AddTimeLog(key, std::make_shared<TimeLog>(record, std::move(columns), std::move(time.times),
+                                                            static_cast<float>(time.log_depth)));
+    }
+}
+
+void RestoreStorageChannels(QZ4LoadFile& file, DataContainer& container, int key)
+{
+    for (auto count = file.LoadDataStorageMap(); count > 0; --count) {
+        int const storage_key = file.LoadDataStorageChannelKey();
+        auto [record, values] = file.LoadStorageDataChannel();
+        auto depth = file.LoadBaseDepthChannel();
+        auto samples = std::make_shared<std::vector<float>>(std::move(values));
+        container.AddStorageChannel(key, storage_key,
+                                    std::make_shared<StorageDataChannel>(record, depth.is_metric, depth.shift,
+                                                                         depth.stretch, depth.depths,
+                                                                         samples));
+    }
+}
+
+void RestoreSurvey(QZ4LoadFile& file, DataContainer& container, int key, QString const& name)
+{
+    if (container.GetAllSurveyKeys().contains(key)) {
+        throw std::invalid_argument("Invalid .qz4 file. Two surveys have the key " + std::to_string(key));
+    }
+    container.AddSurvey(key, name);
+    file.LoadDataContainer();
+    auto const data = file.LoadSurveyData();
+    container.SetInterpretationZones(key, data.interpretation_zones);
+    container.SetInterpretationParameters(key, data.interpretation_parameters);
+    container.SetSurveyText(key, data.survey_text);
+    RestoreDepthLogPasses(file, container, key);
+    RestoreTimeLogs(file, container, key);
+    RestoreStorageChannels(file, container, key);
+}
+} // namespace
+
+void project_file::Save(QString const& path, DataContainer const& container,
+                        ColumnWindowRecords const& windows, int current_survey_key)
+{
+    TemporaryFile temporary(path);
+    if (auto const name = temporary.GetFullTemporaryFileName(); !name.isEmpty()) {
+        Write(name, container, windows, current_survey_key);
+        if (temporary.MoveTemporaryFileToDestination()) {
+            return;
+        }
+    }
+    // No folder for a temporary file, or one on another volume than the destination.
+    Write(path, container, windows, current_survey_key);
+}
+
+project_file::LoadedProject project_file::Load(QString const& path, DataContainer& container)
+{
+    QZ4LoadFile file(path);
+    LoadedProject project;
+    auto const main = file.LoadMain(container);
+    project.current_survey_key = main.current_survey_key;
+    for (int i = 0; i < main.survey_count; ++i) {
+        auto const [key, name] = file.LoadSurveyNamesAndKeys();
+        RestoreSurvey(file, container, key, name);
+    }
+    // Each window record belongs to a survey by its place alone.
+    for (auto const key : container.GetAllSurveyKeys()) {
+        project.windows->emplace(key, file.LoadColumnWindow());
+    }
+    return project;
+}

@@ -129,6 +129,9 @@ double BaseTable::ReadNumber(int row, int column, bool is_depth, bool& ok, QStri
     }
     ColorCodeItem(row, column, number.has_value());
     if (!number) {
+        if (ok) {
+            scrollToItem(&cell); // the first wrong one
+        }
         ok = false;
         AddMessage(text, TableNumber::FormatError(shown));
         return 0;

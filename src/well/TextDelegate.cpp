@@ -3,6 +3,8 @@
 
 #include "well/TextDelegate.h"
 
+#include "display/InputStyle.h"
+
 #include <QLineEdit>
 
 QWidget* TextDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const& option,
@@ -13,4 +15,12 @@ QWidget* TextDelegate::createEditor(QWidget* parent, QStyleOptionViewItem const&
         edit->setMaxLength(MAXIMUM_LENGTH);
     }
     return editor;
+}
+
+void TextDelegate::initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (option->backgroundBrush.color() == Quorrel::INVALID_INPUT_COLOR) {
+        option->state &= ~QStyle::State_Selected;
+    }
 }

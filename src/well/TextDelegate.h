@@ -6,7 +6,8 @@
 #include <QStyledItemDelegate>
 
 /// Edits cells as text. Its line edits take texts beyond what a project file holds, so that a text too long
-/// is refused with a message and not cut short in silence.
+/// is refused with a message and not cut short in silence. The mark of a wrong cell shows in a selected row
+/// too.
 class TextDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -17,4 +18,7 @@ public:
 
     [[nodiscard]] QWidget* createEditor(QWidget* parent, QStyleOptionViewItem const& option,
                                         QModelIndex const& index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const override;
 };

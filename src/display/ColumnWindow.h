@@ -299,8 +299,6 @@ private:
     [[nodiscard]] BaseDataView* FindDataViewForChannels(QString const& name);
     void ConnectComponentClicks(BaseCombinedViewWidget* pair);
     void PrepareForFirstData();
-    /// Views with a width of their own take it; the others share the rest evenly.
-    void ShareWidth();
     void OnChannelAdded(BaseDataView const* view);
     void RemovePair(BaseCombinedViewWidget* pair);
     /// Gives the visible views the width they ask for, and all others an equal share of what is left.

@@ -103,30 +103,6 @@ void ColumnWindow::DisplayFirstCVWs()
         }
         ShareWidth();
     });
-    ShareWidth();
-}
-
-void ColumnWindow::ShareWidth()
-{
-    QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
-    auto const has_own_width = [](BaseCombinedViewWidget const* pair) {
-        return pair->sizePolicy().horizontalPolicy() == QSizePolicy::Preferred;
-    };
-    int room = scroll_area_->GetWidth();
-    int sharing = 0;
-    for (BaseCombinedViewWidget const* pair : FindAllVisibleCombinedViewWidgets()) {
-        if (has_own_width(pair)) {
-            room -= pair->sizeHint().width();
-        } else {
-            ++sharing;
-        }
-    }
-    QList<int> sizes;
-    for (BaseCombinedViewWidget const* pair : pairs) {
-        int const size = has_own_width(pair) ? pair->sizeHint().width() : std::max(1, room / std::max(1, sharing));
-        sizes.append(pair->isHidden() ? 0 : size);
-    }
-    scroll_area_->SetSplitterSizes(sizes);
 }
 
 void ColumnWindow::ShareWidth()

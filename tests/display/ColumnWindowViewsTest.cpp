@@ -52,7 +52,7 @@ TEST_F(ColumnWindowViewsTest, TheFirstDataViewsShareTheWidthThatTheOthersLeave)
     column->DisplayFirstCVWs();
     Settle();
     EXPECT_LT(Width("Depth"), 100) << "a ruler stays narrow";
-    for (QString const& name : {"GR", "CCL", "TEMP", "QP"}) {
+    for (QString const name : {"GR", "CCL", "TEMP", "QP"}) {
         // Of 1000 px, the ruler and the three plain views take 40 and 60 each.
         EXPECT_NEAR(Width(name), (1000 - 40 - 3 * 60) / 4, 30) << name.toStdString();
     }

@@ -8,6 +8,7 @@
 #include "formats/project/QZ4SaveFile.h"
 #include "model/DataContainer.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace {
@@ -28,12 +29,28 @@ void Write(QString const& path, DataContainer const& container,
     file.Close();
 }
 
+/// Logs fill their columns up to the length of the axis. A damaged file could ask for far more than it holds.
+void RefuseMissingSamples(QZ4LoadFile::Columns const& columns, std::size_t axis_length)
+{
+    std::size_t present = axis_length;
+    std::size_t missing = 0;
+    for (auto const& column : columns) {
+        present += column->size();
+        missing += axis_length - std::min(axis_length, column->size());
+    }
+    constexpr std::size_t always_allowed = 65536;
+    if (missing > always_allowed + 4 * present) {
+        throw std::invalid_argument("Invalid .qz4 file. A log has far fewer samples than its axis");
+    }
+}
+
 void RestoreDepthLogPasses(QZ4LoadFile& file, DataContainer& container, int key)
 {
     for (auto count = file.LoadGenericLogPassMap(); count > 0; --count) {
         auto record = file.LoadBaseLogPass();
         auto columns = file.LoadGenericLogPass();
         auto depth = file.LoadBaseDepthChannel();
+        RefuseMissingSamples(columns, depth.depths.size());
         container.AddDepthLogPass(key,
                                   std::make_shared<DepthLogPass>(record, std::move(columns), depth.is_metric,
                                                                  depth.shift, depth.stretch, depth.depths));
@@ -46,6 +63,7 @@ void RestoreTimeLogs(QZ4LoadFile& file, DataContainer& container, int key)
         auto record = file.LoadBaseLogPass();
         auto columns = file.LoadGenericLogPass();
         auto time = file.LoadTimeLog();
+        RefuseMissingSamples(columns, time.times.size());
         container.AddTimeLog(key, std::make_shared<TimeLog>(record, std::move(columns), std::move(time.times),
                                                             static_cast<float>(time.log_depth)));
     }

@@ -134,7 +134,8 @@ QPen QZ4LoadFile::LoadPen()
 {
     QPen pen(LoadColor());
     int const width = LoadInt();
-    pen.setWidth(width >= 0 ? width : 1);
+    constexpr int greatest_width = 32767; // that a pen takes
+    pen.setWidth(width >= 0 && width <= greatest_width ? width : 1);
     auto const style = Read<unsigned char>();
     pen.setStyle(style <= Qt::DashDotDotLine ? static_cast<Qt::PenStyle>(style) : Qt::SolidLine);
     return pen;

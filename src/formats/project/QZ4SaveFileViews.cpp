@@ -159,3 +159,35 @@ void QZ4SaveFile::SaveMFCaliperDataview(MFC_DATAVIEW_STRUCT const& record)
     });
     EndChain();
 }
+
+// Each record writes itself by the function of its kind. Here, so that records do not know the file.
+
+void VIEW_WIDGET_STRUCT::SaveBody(QZ4SaveFile& file) const
+{
+    file.SaveViewWidget(*this);
+}
+
+void BASE_DATAVIEW_STRUCT::SaveBody(QZ4SaveFile& file) const
+{
+    file.SaveBaseDataView(*this);
+}
+
+void INTERMEDIATE_DATAVIEW_STRUCT::SaveBody(QZ4SaveFile& file) const
+{
+    file.SaveIntermediateDataView(*this);
+}
+
+void USER_DATAVIEW_STRUCT::SaveBody(QZ4SaveFile& file) const
+{
+    file.SaveUserDataView(*this);
+}
+
+void IMAGE_DATAVIEW_STRUCT::SaveBody(QZ4SaveFile& file) const
+{
+    file.SaveImageDataView(*this);
+}
+
+void MFC_DATAVIEW_STRUCT::SaveBody(QZ4SaveFile& file) const
+{
+    file.SaveMFCaliperDataview(*this);
+}

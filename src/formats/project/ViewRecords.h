@@ -47,7 +47,7 @@ struct VIEW_WIDGET_BASE_STRUCT
 
     virtual ~VIEW_WIDGET_BASE_STRUCT() = default;
     virtual void CreateViewWidget(ViewRestorer& restorer) const = 0;
-    /// Writes what follows the object name and the visibility.
+    /// Writes what follows the object name and the visibility; defined with the file.
     virtual void SaveBody(QZ4SaveFile& file) const = 0;
 };
 

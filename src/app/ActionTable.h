@@ -87,7 +87,7 @@ struct ActionDefinition {
     char const* icon;       ///< file under ":/Icons/", without folder of the colour scheme
     QKeySequence key;
     bool checkable;
-    char const* status_tip; ///< empty: the text without "&"
+    char const* status_tip; ///< empty for none
     MenuId menu;
     ToolBarId tool_bar;
     Availability availability;

@@ -35,7 +35,9 @@ FrameActions::FrameActions(QObject* parent) : QObject(parent)
         action->setShortcut(definition.key);
         action->setCheckable(definition.checkable);
         auto const plain_text = tr(definition.text).remove('&');
-        action->setStatusTip(*definition.status_tip != '\0' ? tr(definition.status_tip) : plain_text);
+        if (*definition.status_tip != '\0') { // others would only hide the depth read-out
+            action->setStatusTip(tr(definition.status_tip));
+        }
         action->setToolTip(plain_text);
         action->setObjectName(plain_text);
         actions_.insert(definition.id, action);

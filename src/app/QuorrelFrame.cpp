@@ -32,6 +32,7 @@
 #include <QResizeEvent>
 #include <QScreen>
 #include <QStatusBar>
+#include <QThread>
 #include <QTimer>
 #include <QToolBar>
 
@@ -99,9 +100,13 @@ QuorrelFrame::QuorrelFrame(QWidget* parent)
 
 QuorrelFrame::~QuorrelFrame()
 {
+    // Readers and savers end their work first: a thread must not be destroyed while it runs.
+    for (auto* thread : findChildren<QThread*>()) {
+        thread->wait();
+    }
     auto& settings = SettingsSingleton::Instance();
     settings.SetFrameGeometry(saveGeometry());
-    settings.SetIsMaximized(isMaximized());
+    settings.SetIsMaximized(isMaximized() || covers_screen_);
     LogDepthQuestion::Install({});
     TimeCurveOverlay::SetChartOpener({});
     // The columns' last signals would find members gone.
@@ -152,6 +157,8 @@ void QuorrelFrame::CreateActions()
     on_toggled(ActionId::DefineInterpretationZones, &QuorrelFrame::InterpretationZoneDefinitionToggled);
     on_toggled(ActionId::ShiftPass, &QuorrelFrame::OnShiftToggled);
     on_toggled(ActionId::StretchPass, &QuorrelFrame::OnStretchToggled);
+    on_toggled(ActionId::HidePass, &QuorrelFrame::OnHidePassToggled);
+    on_toggled(ActionId::HighlightPass, &QuorrelFrame::OnHighLightPassToggled);
     on_toggled(ActionId::TrackingMode, &QuorrelFrame::OnTrackingMode);
 
     actions_->Get(ActionId::MfcMode)->setChecked(Quorrel::MFC_MODE_SHARED_TRACKS);
@@ -159,12 +166,10 @@ void QuorrelFrame::CreateActions()
     on_toggled(ActionId::MfcMode, &QuorrelFrame::OnMfcMode);
     on_toggled(ActionId::MfcColorMap, &QuorrelFrame::OnMfcColorMap);
 
-    // These four follow the model and the settings, so only the user's hand counts, not setChecked.
+    // These two follow the model and the settings, so only the user's hand counts, not setChecked.
     auto on_triggered = [this](ActionId id, void (QuorrelFrame::*slot)(bool)) {
         connect(actions_->Get(id), &QAction::triggered, this, slot);
     };
-    on_triggered(ActionId::HidePass, &QuorrelFrame::OnHidePassToggled);
-    on_triggered(ActionId::HighlightPass, &QuorrelFrame::OnHighLightPassToggled);
     on_triggered(ActionId::ToggleDepthUnit, &QuorrelFrame::OnIsMetricDepthToggled);
     on_triggered(ActionId::ToggleSeparator, &QuorrelFrame::OnIsSeparatorPeriodToggled);
     InitializeSeparatorAction();
@@ -567,6 +572,7 @@ void QuorrelFrame::CoverScreenIfMaximized()
 {
     auto const available = screen()->availableGeometry();
     if (isMaximized() && (width() < 0.9 * available.width() || height() < 0.8 * available.height())) {
+        covers_screen_ = true; // setGeometry ends the maximised state
         setGeometry(available);
     }
 }

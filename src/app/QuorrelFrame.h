@@ -205,6 +205,7 @@ private:
     QPointer<ColumnWindow> current_column_window_;
     QString project_file_name_;
     QPointer<BusyOverlay> busy_overlay_;
+    bool covers_screen_ = false; ///< stands for maximised where nothing maximises windows
     bool undo_available_ = false;
     bool redo_available_ = false;
     std::unique_ptr<RecentFiles> recent_files_;

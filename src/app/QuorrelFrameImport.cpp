@@ -13,6 +13,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QTimer>
 
 // The flow that brings LAS files into the current survey: a reader thread per file, a check, the insertion,
 // the views.
@@ -40,8 +41,12 @@ void QuorrelFrame::OnImport()
 }
 
 void QuorrelFrame::OnLasFileLoaded(std::shared_ptr<LASFile> file, QString const& path, bool ok,
-                                   QString const& error, [[maybe_unused]] DisableToken token)
+                                   QString const& error, DisableToken token)
 {
+    if (busy_overlay_) { // a project thread has the model
+        QTimer::singleShot(50, this, [=, this] { OnLasFileLoaded(file, path, ok, error, token); });
+        return;
+    }
     if (!ok || !file) {
         QMessageBox::warning(this, tr("Warning"), error);
         emit LasFileFinishedLoading_Signal();
@@ -59,7 +64,7 @@ void QuorrelFrame::OnLasFileLoaded(std::shared_ptr<LASFile> file, QString const&
             UpdateMfcMenuBar();
         }
     } catch (std::exception const& exception) {
-        qCritical("%s exception cought: %s", Q_FUNC_INFO, exception.what());
+        qCritical("%sexception cought: %s", Q_FUNC_INFO, exception.what());
         QMessageBox::warning(this, tr("Warning"),
                              "Exception cought while adding logpass to datacontainer: " + path + "\n" +
                                  QString::fromUtf8(exception.what()));
@@ -99,10 +104,10 @@ void QuorrelFrame::OnLogPassImported(LogPassIdentifier const& identifier, bool i
         return;
     }
     if (is_depth) {
+        column->AddImportedDepthLog(GetDepthLogPass(identifier));
         if (identifier.survey_key == GetCurrentSurveyKey()) {
             UpdatePassComboBox();
         }
-        column->AddImportedDepthLog(GetDepthLogPass(identifier));
     } else {
         column->OnTimeLogAdded(GetTimeLog(identifier));
     }

@@ -80,6 +80,9 @@ void QuorrelFrame::SetCurrentPassProperties(bool LogPassProperties::*flag, bool 
         return;
     }
     auto properties = GetLogPassProperties(identifier);
+    if (properties.*flag == on) {
+        return; // the action followed the model
+    }
     properties.*flag = on;
     SetLogPassProperties(identifier, properties);
     RedrawCurrentColumnWindow();

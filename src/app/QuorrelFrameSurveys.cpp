@@ -119,6 +119,9 @@ void QuorrelFrame::OnSurveyDeleted(KeyType key)
     if (!GetColumnWindow(key)) {
         return;
     }
+    if (key == GetCurrentSurveyKey()) {
+        ResetCheckablePushButtons(nullptr);
+    }
     column_windows_.DeleteColumnWindow(key);
     column_windows_.DeleteDependencies(DataChannelIdentifier(key, QString(), -1));
     DeleteSurvey(key);
@@ -170,9 +173,14 @@ void QuorrelFrame::OnSelectionEnd(Zone const& zone)
     }
     actions_->Get(ActionId::DefineInterpretationZones)->setChecked(false);
     if (zone.GetDepth().IsValid() && zone.GetDepth().Delta() > 0) {
-        AddInterpretationZone(GetCurrentSurveyKey(), zone);
-        UpdateAvailability();
-        RedrawCurrentColumnWindow();
+        try {
+            AddInterpretationZone(GetCurrentSurveyKey(), zone);
+            UpdateAvailability();
+            RedrawCurrentColumnWindow();
+        } catch (std::exception const& exception) {
+            qCritical("%sexception cought: %s", Q_FUNC_INFO, exception.what());
+            QMessageBox::warning(this, tr("Warning"), QString::fromUtf8(exception.what()));
+        }
     }
 }
 

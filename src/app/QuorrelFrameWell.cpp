@@ -6,15 +6,16 @@
 #include "app/kit/SettingsSingleton.h"
 #include "display/ColumnWindow.h"
 #include "display/ViewFactory.h"
-#include "model/ViewObjectNames.h"
 #include "display/XYChart.h"
+#include "model/ViewObjectNames.h"
 #include "well/DeviationDataView.h"
 #include "well/DirectionalSurveyData.h"
 
 // What the main frame shows of the well.
 
 namespace {
-template <typename Action> void ForEachDeviationDataView(ColumnWindow& column, Action const& action)
+template <typename Action>
+void ForEachDeviationDataView(ColumnWindow& column, Action const& action)
 {
     for (BaseViewWidget* view : column.FindViewWidgets(view_object_names::DEVIATION)) {
         if (auto* deviation = qobject_cast<DeviationDataView*>(view)) {

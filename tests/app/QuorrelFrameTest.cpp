@@ -8,10 +8,10 @@
 #include "display/BaseCombinedViewWidget.h"
 #include "display/BaseScaleView.h"
 #include "display/ColumnWindow.h"
-#include "model/ScaleItemParameters.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/XYChart.h"
 #include "model/DepthLogPass.h"
+#include "model/ScaleItemParameters.h"
 #include "resources/Resources.h"
 #include "support/DialogAnswer.h"
 #include "support/PrintQt.h"
@@ -426,4 +426,21 @@ TEST_F(QuorrelFrameTest, TheVerticalSectionIsAChartOfItsOwn)
     EXPECT_EQ(chart->GetYAxisTitle(), "Depth [m]");
     EXPECT_EQ(chart->GetXAxis().interval, Interval(0, 100));
     EXPECT_TRUE(chart->GetYAxis().interval.Contains(50));
+}
+
+TEST_F(QuorrelFrameTest, ClosingWhileAFileLoadsWaitsForTheReader)
+{
+    frame_->AddNewSurvey("A");
+    auto const path =
+        folder_.Write("long.las", MakeLas("1.0", "NULL. -999.25 :\n", "DEPT.M : depth\n", 400000));
+    DialogAnswer dialogs({[path](QDialog* dialog) {
+        auto* files = qobject_cast<QFileDialog*>(dialog);
+        ASSERT_NE(files, nullptr);
+        files->findChild<QLineEdit*>("fileNameEdit")->setText(path);
+        static_cast<QDialog*>(files)->accept();
+    }});
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    Action("Add LAS File to Survey")->trigger();
+    EXPECT_FALSE(frame_->findChildren<QThread*>().isEmpty());
+    frame_.reset(); // a thread destroyed while it runs would end the process
 }

@@ -65,11 +65,14 @@ void ParameterDataLine::ParseRawLine(std::string const& raw_line)
         // Without a blank behind the unit the value is everything up to the colon, mnemonic included.
         value_ = Part(line, blank == NOT_FOUND ? 0 : blank + 1, colon);
     }
-    if (colon == NOT_FOUND) {
-        return;
-    }
 
-    std::size_t const begin = colon + 1;
+    // Without a colon there is no description, but a format or associations may still follow.
+    std::size_t const begin = colon == NOT_FOUND ? behind_dot : colon + 1;
+    auto const set_description = [&](std::size_t end) {
+        if (colon != NOT_FOUND) {
+            description_ = Part(line, begin, end);
+        }
+    };
     std::size_t open = line.rfind('{');
     std::size_t bar = line.rfind('|');
     open = open != NOT_FOUND && open >= begin ? open : NOT_FOUND;
@@ -80,16 +83,16 @@ void ParameterDataLine::ParseRawLine(std::string const& raw_line)
         open != NOT_FOUND && (bar == NOT_FOUND || bar < open || (is_closed && close < bar));
 
     if (has_format) {
-        description_ = Part(line, begin, open);
+        set_description(open);
         format_ = Part(line, open + 1, is_closed ? close : NOT_FOUND);
         std::size_t const association_bar = is_closed ? line.find('|', close) : NOT_FOUND;
         if (association_bar != NOT_FOUND) {
             associations_ = Part(line, association_bar + 1, NOT_FOUND);
         }
     } else if (bar != NOT_FOUND) {
-        description_ = Part(line, begin, bar);
+        set_description(bar);
         associations_ = Part(line, bar + 1, NOT_FOUND);
     } else {
-        description_ = Part(line, begin, NOT_FOUND);
+        set_description(NOT_FOUND);
     }
 }

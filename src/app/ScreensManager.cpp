@@ -3,6 +3,7 @@
 
 #include "app/ScreensManager.h"
 
+#include "app/kit/ProjectText.h"
 #include "app/kit/Quorrel.h"
 #include "display/ColumnWindow.h"
 
@@ -12,11 +13,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-namespace {
-/// What a project file can hold of a name, in bytes of UTF-8.
-constexpr qsizetype MAX_NAME_BYTES = 65535;
-} // namespace
 
 ScreensManager::ScreensManager(ColumnWindow& column, QWidget* parent)
     : QDialog(parent), column_(column), lw_screens_(new QListWidget(this)), pb_delete_(new QPushButton(this))
@@ -66,8 +62,8 @@ void ScreensManager::OnSave()
     if (!accepted || name.isEmpty()) {
         return;
     }
-    if (name.toUtf8().size() > MAX_NAME_BYTES) {
-        QMessageBox::information(this, windowTitle(), tr("The name is too long for a project file."));
+    if (auto const message = Quorrel::CheckProjectText(tr("The name is"), name); !message.isEmpty()) {
+        QMessageBox::information(this, windowTitle(), message);
         return;
     }
     column_.SaveScreen(name);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 
 /// Words and tags of the project file. The file is little-endian without padding, written as it stands in
@@ -14,6 +15,8 @@ static_assert(sizeof(float) == 4 && sizeof(double) == 8 && sizeof(int) == 4);
 
 inline constexpr char FILE_MAGIC_WORD[] = "FILEFORMAT_MAGIC_WORD"; // 21 bytes, without length
 inline constexpr int VERSION = 3;
+/// Least bytes of a string, for the check of counts before anything is allocated.
+inline constexpr std::size_t STRING_BYTES = 2;
 
 inline constexpr char MAIN[] = "MAIN";
 inline constexpr char SURVEYDATA[] = "SURVEYDATA_MAGIC_WORD";

@@ -13,7 +13,7 @@
 
 namespace {
 /// Least bytes in the file of an element of a list, for the check of counts before anything is allocated.
-constexpr std::size_t STRING_BYTES = 2;
+using qz4::STRING_BYTES;
 constexpr std::size_t COLOR_BYTES = 12;
 constexpr std::size_t ZONE_BYTES = 16 + STRING_BYTES + COLOR_BYTES;
 constexpr std::size_t HEADER_ROW_BYTES = 4 * STRING_BYTES;

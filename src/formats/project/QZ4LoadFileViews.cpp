@@ -8,7 +8,7 @@
 // The records of column windows, their views and stored screens.
 
 namespace {
-constexpr std::size_t STRING_BYTES = 2;
+using qz4::STRING_BYTES;
 constexpr std::size_t IDENTIFIER_BYTES = 4 + STRING_BYTES + 4;
 constexpr std::size_t SCALE_BYTES = 4 * STRING_BYTES + 4 + 8 + 17 + 1;
 constexpr std::size_t FILL_BYTES = STRING_BYTES + 2 * IDENTIFIER_BYTES + 12 + 12;

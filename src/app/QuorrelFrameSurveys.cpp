@@ -6,6 +6,7 @@
 #include "app/QuorrelFrame.h"
 #include "app/SurveyComboBox.h"
 #include "app/SurveyNotesDialog.h"
+#include "app/kit/ProjectText.h"
 #include "display/ColumnContext.h"
 #include "display/ColumnWindow.h"
 #include "display/ViewFactory.h"
@@ -36,6 +37,10 @@ void QuorrelFrame::OnNewSurvey()
                                             QString(), &accepted);
     if (!accepted || name.isEmpty()) {
         QMessageBox::information(this, tr("Empty survey name"), tr("Please enter valid survey name"));
+        return;
+    }
+    if (auto const message = Quorrel::CheckProjectText(tr("The name is"), name); !message.isEmpty()) {
+        QMessageBox::information(this, tr("New Survey"), message);
         return;
     }
     AddNewSurvey(name);

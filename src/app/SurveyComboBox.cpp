@@ -50,9 +50,7 @@ void SurveyComboBox::RenameSurvey(KeyType key, QString const& name)
 
 void SurveyComboBox::SetCurrentSurvey(KeyType key)
 {
-    if (int const index = FindIndex(key); index >= 0) {
-        combo_box_->setCurrentIndex(index);
-    }
+    combo_box_->setCurrentIndex(FindIndex(key));
 }
 
 KeyType SurveyComboBox::GetCurrentSurveyKey() const

@@ -26,6 +26,7 @@ public:
     void AddSurvey(QString const& name, KeyType key);
     void DeleteSurvey(KeyType key);
     void RenameSurvey(KeyType key, QString const& name);
+    /// Selects nothing for a key that is not there.
     void SetCurrentSurvey(KeyType key);
     /// -1 when there is none.
     [[nodiscard]] KeyType GetCurrentSurveyKey() const;

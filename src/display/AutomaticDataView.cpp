@@ -5,6 +5,8 @@
 
 #include "model/DepthLogPass.h"
 
+#include <QEvent>
+
 #include <algorithm>
 
 AutomaticDataView::AutomaticDataView(QWidget* parent, QString const& name, ColumnContext const& context)
@@ -57,6 +59,9 @@ void AutomaticDataView::AssignTimeDataChannel(std::weak_ptr<TimeLogDataChannel c
 void AutomaticDataView::SetAutomaticDataViewScales(Interval const& scale)
 {
     scale_ = scale;
+    if (selected_scale_) {
+        selected_scale_->scale = scale; // the baseline stands on it, also before the header follows
+    }
     ForceRedraw();
 }
 
@@ -155,6 +160,14 @@ void AutomaticDataView::HorizontalZoom(int x1, int x2)
     emit PushUndoObject_Signal(GetName(), DataChannelIdentifier(), before, scale_);
 }
 
+void AutomaticDataView::changeEvent(QEvent* event)
+{
+    IntermediateDataView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        UpdateScales();
+    }
+}
+
 DepthCurve const* AutomaticDataView::RenderCurveTracker(QPainter& painter)
 {
     auto const pass = context_.current_pass != nullptr ? context_.current_pass->pass.lock() : nullptr;
@@ -164,7 +177,7 @@ DepthCurve const* AutomaticDataView::RenderCurveTracker(QPainter& painter)
     }
     LogPassIdentifier const identifier = pass->GetLogPassIdentifier();
     for (DepthCurve const& curve : depth_curves_) {
-        if (curve.GetDataChannelIdentifier().GetLogPassIdentifier() == identifier && !curve.IsHidden()) {
+        if (curve.GetDataChannelIdentifier().GetLogPassIdentifier() == identifier) {
             return RenderCurveTracker_common(painter, *depth, curve, {}, 0) ? &curve : nullptr;
         }
     }

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "model/ViewObjectNames.h"
 #include "display/IntermediateDataView.h"
+#include "model/ViewObjectNames.h"
 
 /// The view the program makes by itself for one mnemonic: one shared scale, one curve per log pass in the
 /// pass's pen.
@@ -44,6 +44,10 @@ public:
     void HorizontalZoom(int x1, int x2) override;
     /// Follows the curve of the column's current log pass.
     DepthCurve const* RenderCurveTracker(QPainter& painter) override;
+
+protected:
+    /// The header's record is in the palette's text colour.
+    void changeEvent(QEvent* event) override;
 
 private:
     [[nodiscard]] Interval GetDefaultScale() const;

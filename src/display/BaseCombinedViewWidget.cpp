@@ -35,6 +35,13 @@ QString BaseCombinedViewWidget::GetBaseViewWidgetName() const
     return GetBaseViewWidget()->GetName();
 }
 
+void BaseCombinedViewWidget::SetBaseViewWidgetName(QString const& name)
+{
+    GetBaseViewWidget()->SetNameAndTitle(name);
+    scale_view_->SetName(name);
+    setWindowTitle(name);
+}
+
 QString BaseCombinedViewWidget::GetBaseViewWidgetObjectName() const
 {
     return GetBaseViewWidget()->objectName();

@@ -44,6 +44,8 @@ public:
 
     [[nodiscard]] BaseScaleView* GetBaseScaleView() const { return scale_view_; }
     [[nodiscard]] QString GetBaseViewWidgetName() const;
+    /// Renames the view and its header.
+    void SetBaseViewWidgetName(QString const& name);
     [[nodiscard]] QString GetBaseViewWidgetObjectName() const;
 
     void RemoveCursor();

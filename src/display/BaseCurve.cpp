@@ -29,13 +29,6 @@ void BaseCurve::SetScales(Interval const& scale)
     scale_item_->scale = scale;
 }
 
-void BaseCurve::SetScaleItemParameters(std::shared_ptr<ScaleItemParameters> const& scale_item)
-{
-    if (scale_item) {
-        scale_item_ = scale_item;
-    }
-}
-
 double BaseCurve::ConvertValueToPercentage(float value) const
 {
     Interval const& scale = GetScale();

@@ -34,7 +34,6 @@ public:
     {
         return scale_item_;
     }
-    void SetScaleItemParameters(std::shared_ptr<ScaleItemParameters> const& scale_item);
 
     /// Place of `value` on the scale: 0 at the lower end, 1 at the upper.
     [[nodiscard]] double ConvertValueToPercentage(float value) const;

@@ -79,7 +79,9 @@ void BaseDataView::AssignTimeDataChannel(std::weak_ptr<TimeLogDataChannel const>
     }
     Interval const scale =
         first != nullptr ? GetScale(*first) : CalculateDefaultHorizontalScale(overlay->GetValueInterval());
-    SetScales(static_cast<BaseCurve&>(*overlay), scale);
+    for (int i = 0; BaseCurve* const curve = GetCurveAt(i); ++i) {
+        SetScales(*curve, scale);
+    }
     ForceRedraw();
     UpdateScales();
 }
@@ -111,14 +113,6 @@ std::optional<Interval> BaseDataView::GetDepthInterval_metric() const
         return depth ? depth : time;
     }
     return Interval(std::min(depth->lower, time->lower), std::max(depth->upper, time->upper));
-}
-
-void BaseDataView::ProcessCurves()
-{
-    if (isVisible()) {
-        depth_curves_.ProcessAllCurves();
-    }
-    ForceRedraw();
 }
 
 void BaseDataView::SetShowMarkersA(bool show)
@@ -315,10 +309,12 @@ std::vector<std::shared_ptr<ScaleItemParameters>> BaseDataView::GetScales() cons
 void BaseDataView::UpdateScales()
 {
     std::vector<std::shared_ptr<ScaleItemParameters>> const scales = GetScales();
-    if (std::find(scales.begin(), scales.end(), selected_scale_) == scales.end()) {
-        auto const selected = std::find_if(scales.begin(), scales.end(),
-                                           [](auto const& record) { return record->is_selected; });
-        SetSelectedScaleCurveInfo(selected != scales.end() ? *selected : nullptr);
+    auto const selected =
+        std::find_if(scales.begin(), scales.end(), [](auto const& record) { return record->is_selected; });
+    if (selected != scales.end()) {
+        SetSelectedScaleCurveInfo(*selected);
+    } else if (std::find(scales.begin(), scales.end(), selected_scale_) == scales.end()) {
+        SetSelectedScaleCurveInfo(nullptr);
     }
     emit SetScale_Signal(scales);
     if (!scales.empty()) {
@@ -418,6 +414,11 @@ void BaseDataView::paintEvent(QPaintEvent* /*event*/)
     }
 }
 
+bool BaseDataView::DrawsMoreThanCrossHair() const
+{
+    return Quorrel::TRACKING_MODE || BaseViewWidget::DrawsMoreThanCrossHair();
+}
+
 int BaseDataView::RenderCurve(DepthCurve const& curve, int width, int height, Interval const& interval)
 {
     return CurveRenderer::RenderCurve(curve, GetScale(curve), width, height, interval, render_points_);
@@ -446,6 +447,16 @@ void BaseDataView::hideEvent(QHideEvent* event)
 }
 
 // --- mouse
+
+bool BaseDataView::event(QEvent* event)
+{
+    // As in the base class, for the drag of a depth correction.
+    if (event->type() == QEvent::ContextMenu && drag_y_ != NO_DRAG) {
+        event->accept();
+        return true;
+    }
+    return BaseViewWidget::event(event);
+}
 
 void BaseDataView::mousePressEvent(QMouseEvent* event)
 {

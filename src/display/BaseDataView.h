@@ -6,10 +6,10 @@
 #include "display/BaseViewWidget.h"
 #include "display/ColumnContext.h"
 #include "display/DepthCurveVector.h"
-#include "model/ScaleItemParameters.h"
 #include "display/TimeCurveVector.h"
 #include "model/BaseDepthDataChannel.h"
 #include "model/DataChannelIdentifier.h"
+#include "model/ScaleItemParameters.h"
 #include "model/TimeLogDataChannel.h"
 
 #include <QColor>
@@ -81,7 +81,8 @@ public:
 
     /// With the next colour of the cycle red, green, cyan, magenta, yellow, white.
     void AssignDepthDataChannel(std::weak_ptr<BaseDepthDataChannel const> channel);
-    /// On the scale the view has; a view without curves takes the default scale of the channel's values.
+    /// On the scale of the view's first curve, which all its curves then have; a view without curves takes
+    /// the default scale of the channel's values.
     virtual void AssignTimeDataChannel(std::weak_ptr<TimeLogDataChannel const> channel);
     void RemoveDepthDataChannel(DataChannelIdentifier const& identifier);
     /// Removes each curve that depends on the channel (or on its pattern); true while the view still has
@@ -108,13 +109,9 @@ public:
     /// Turns the curve into points in the view's scratch buffer, for the view's scale of it, and returns
     /// their number.
     int RenderCurve(DepthCurve const& curve, int width, int height, Interval const& interval);
-    [[nodiscard]] std::vector<QPointF> const& GetRenderPoints() const { return render_points_; }
-    /// Builds the curves' bins anew after their samples were changed; bins exist only while the view is
-    /// shown.
-    void ProcessCurves();
 
     /// Name, markers and baseline, to and from the record of a project file.
-    void WriteState_BaseDataView(BASE_DATAVIEW_STRUCT& record) const;
+    [[nodiscard]] BASE_DATAVIEW_STRUCT WriteState_BaseDataView() const;
     void RestoreState_BaseDataView(BASE_DATAVIEW_STRUCT const& record);
 
 signals:
@@ -133,7 +130,9 @@ signals:
 protected:
     static constexpr int NO_DRAG = std::numeric_limits<int>::max();
 
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    [[nodiscard]] bool DrawsMoreThanCrossHair() const override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

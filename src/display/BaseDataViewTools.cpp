@@ -67,10 +67,13 @@ void BaseDataView::RenderBaseline(QPainter& painter, int width) const
     Interval const& scale = selected_scale_->scale;
     int const x = Quorrel::TruncateToInt((0 - scale.lower) / (scale.upper - scale.lower) * width);
     int const bottom = painter.window().height() - 1;
-    painter.setPen(QPen(Qt::white, 1, Qt::SolidLine));
-    painter.drawLine(x, 0, x, bottom);
-    painter.setPen(QPen(Qt::blue, 1, Qt::DashLine));
-    painter.drawLine(x, 0, x, bottom);
+    for (auto const& [color, style] :
+         {std::pair(Qt::white, Qt::SolidLine), std::pair(Qt::blue, Qt::DashLine)}) {
+        QPen pen(color, 1, style);
+        pen.setCosmetic(true); // a pixel of the device, however the window is mapped onto it
+        painter.setPen(pen);
+        painter.drawLine(x, 0, x, bottom);
+    }
 }
 
 void BaseDataView::RenderDepthMarkers(QPainter& painter, QList<DepthMarker> const& markers,
@@ -89,7 +92,7 @@ void BaseDataView::RenderDepthMarkers(QPainter& painter, QList<DepthMarker> cons
         }
         painter.drawLine(0, y, static_cast<int>(width * 0.1), y);
         painter.drawLine(static_cast<int>(width * 0.9), y, width, y);
-        int const x = (width - metrics.horizontalAdvance(marker.text)) / 2;
+        int const x = width / 2 - metrics.horizontalAdvance(marker.text) / 2;
         painter.drawText(x, y + text_height + 5, marker.text);
     }
 }
@@ -154,7 +157,7 @@ DepthCurve const* BaseDataView::RenderCurveTracker(QPainter& painter)
 bool BaseDataView::RenderCurveTracker_common(QPainter& painter, double depth, DepthCurve const& curve,
                                              QString const& prefix, float x_offset)
 {
-    if (!(depth > curve.GetMinDepth_metric() && depth < curve.GetMaxDepth_metric())) {
+    if (curve.IsHidden() || !(depth > curve.GetMinDepth_metric() && depth < curve.GetMaxDepth_metric())) {
         return false;
     }
     std::optional<float> const value = ValueAtDepth(curve, depth);
@@ -230,12 +233,16 @@ void BaseDataView::RenderMeasurements(QPainter& painter, DepthCurve const* track
     int const rows = cursor_y_ - press_y_;
     if (std::abs(rows) > head_room) {
         painter.drawLine(column1, press_y_, column1, cursor_y_ - (rows > 0 ? head_room : -head_room));
+    }
+    if (rows != 0) {
         DrawArrowHead(painter, QPolygon({QPoint(-5, 10), QPoint(5, 10), QPoint(0, 0)}),
                       QPoint(column1, cursor_y_), rows > 0);
     }
     int const columns = column2 - column1;
     if (std::abs(columns) > head_room) {
         painter.drawLine(column1, press_y_, column2 - (columns > 0 ? head_room : -head_room), press_y_);
+    }
+    if (columns != 0) {
         DrawArrowHead(painter, QPolygon({QPoint(-10, 5), QPoint(-10, -5), QPoint(0, 0)}),
                       QPoint(column2, press_y_), columns < 0);
     }

@@ -45,9 +45,39 @@ void BaseViewWidget::ForceRedraw()
 void BaseViewWidget::SetCursorRow(int y)
 {
     if (cursor_y_ != y) {
+        UpdateCrossHair();
         cursor_y_ = y;
-        update();
+        UpdateCrossHair();
     }
+}
+
+void BaseViewWidget::SetCursorColumn(int x)
+{
+    if (cursor_x_ != x) {
+        UpdateCrossHair();
+        cursor_x_ = x;
+        UpdateCrossHair();
+    }
+}
+
+void BaseViewWidget::UpdateCrossHair()
+{
+    if (DrawsMoreThanCrossHair()) {
+        update();
+        return;
+    }
+    // A pixel to each side, for lines between the pixels of a screen of a fractional scale.
+    if (cursor_y_ >= 0) {
+        update(0, cursor_y_ - 1, width(), 3);
+    }
+    if (cursor_x_ >= 0) {
+        update(cursor_x_ - 1, 0, 3, height());
+    }
+}
+
+bool BaseViewWidget::DrawsMoreThanCrossHair() const
+{
+    return selection_start_x_ >= 0 || selection_start_y_ >= 0 || press_x_ >= 0;
 }
 
 void BaseViewWidget::SetSelectionStartRow(int y)
@@ -84,15 +114,24 @@ float BaseViewWidget::GetBottomDepthVisible_metric() const
     return static_cast<float>(parameters_->GetViewDepthMetric().upper);
 }
 
+bool BaseViewWidget::event(QEvent* event)
+{
+    // A menu would swallow the release that ends the drag.
+    if (event->type() == QEvent::ContextMenu && IsDragging()) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void BaseViewWidget::mousePressEvent(QMouseEvent* event)
 {
-    // Only the left button starts a tool: the menu of the right one would swallow the release.
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
     if (parameters_->GetVerticalZoomChecked() || parameters_->GetInterpretationZonesDefinitionChecked()) {
         selection_start_y_ = static_cast<int>(event->position().y());
         emit VerticalSelectionBegin_Signal(selection_start_y_);
+        return;
+    }
+    if (event->button() != Qt::LeftButton) {
         return;
     }
     press_x_ = Quorrel::RoundToInt(event->position().x());
@@ -103,17 +142,25 @@ void BaseViewWidget::mouseMoveEvent(QMouseEvent* event)
 {
     int const x = static_cast<int>(event->position().x());
     int const y = static_cast<int>(event->position().y());
-    cursor_x_ = x;
-    update();
+    SetCursorColumn(x);
+    ReportMouse(x, y);
+}
+
+void BaseViewWidget::ReportMouse(int x, int y)
+{
     StatusMessage const message = GetStatusMessage(x, y);
     emit MouseMove_Signal(y, message.depth, message.text);
 }
 
+void BaseViewWidget::ReportRestingMouse()
+{
+    if (cursor_x_ >= 0 && cursor_y_ >= 0) {
+        ReportMouse(cursor_x_, cursor_y_);
+    }
+}
+
 void BaseViewWidget::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton) {
-        return;
-    }
     if ((parameters_->GetVerticalZoomChecked() || parameters_->GetInterpretationZonesDefinitionChecked()) &&
         selection_start_y_ >= 0) {
         int const start = selection_start_y_;
@@ -136,8 +183,7 @@ void BaseViewWidget::enterEvent(QEnterEvent* event)
 void BaseViewWidget::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
-    cursor_x_ = -1;
-    update();
+    SetCursorColumn(-1);
     emit MouseLeave_Signal();
 }
 
@@ -187,6 +233,10 @@ void BaseViewWidget::DrawCachedPixmap(QPainter& painter, std::function<void(QPai
         // which takes a third of the time and gives the same picture.
         pixmap_painter.setClipRect(rect());
         render(pixmap_painter);
+        if (cursor_x_ >= 0) {
+            // Other depths and values lie under the mouse now; told when this painting is over.
+            QMetaObject::invokeMethod(this, &BaseViewWidget::ReportRestingMouse, Qt::QueuedConnection);
+        }
     }
     painter.drawPixmap(0, 0, *cached_pixmap_);
 }

@@ -36,6 +36,7 @@ public:
     [[nodiscard]] virtual StatusMessage GetStatusMessage(int x, int y) const = 0;
 
     [[nodiscard]] QString const& GetName() const { return name_; }
+    void SetNameAndTitle(QString const& name);
     [[nodiscard]] BaseViewWidgetParameters const* GetParameters() const { return parameters_; }
     [[nodiscard]] DirectionalSurveyData const& GetDirectionalSurvey() const { return directional_survey_; }
 
@@ -77,6 +78,7 @@ signals:
     void SetScale_Signal(std::vector<std::shared_ptr<ScaleItemParameters>> scales);
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -86,11 +88,18 @@ protected:
     void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
-    void SetNameAndTitle(QString const& name);
+    /// A selection or a measuring drag is under way.
+    [[nodiscard]] bool IsDragging() const
+    {
+        return press_x_ >= 0 || selection_start_x_ >= 0 || selection_start_y_ >= 0;
+    }
 
     /// Draws the cached pixmap at the origin; before that, when it is stale or has another size than the
     /// widget, fills it with the background colour and calls `render` on it.
     void DrawCachedPixmap(QPainter& painter, std::function<void(QPainter&)> const& render);
+    /// Whether what is drawn over the pixmap at this moment reaches beyond the cross-hair, so that a move of
+    /// the mouse repaints the whole view instead of the lines that change.
+    [[nodiscard]] virtual bool DrawsMoreThanCrossHair() const;
     /// Cross-hair, selection lines and selection band.
     void RenderMouseCursor(QPainter& painter) const;
 
@@ -105,6 +114,13 @@ protected:
     bool needs_redraw_ = true;
 
 private:
+    void SetCursorColumn(int x);
+    /// Asks for a repaint of what is drawn at the cursor.
+    void UpdateCrossHair();
+    /// Emits MouseMove_Signal with the message for the pixel.
+    void ReportMouse(int x, int y);
+    void ReportRestingMouse();
+
     QString name_;
     std::shared_ptr<QPixmap> cached_pixmap_;
     int render_count_ = 0;

@@ -35,11 +35,11 @@ QList<View*> ViewsOfKind(ScrollAreaWrapper const& area, QString const& object_na
 ColumnWindow::ColumnWindow(int survey_id, ColumnContext const& context, ViewFactory const* factory,
                            QObject* parent)
     : ColumnSlots(parent),
-      scroll_area_(std::make_unique<ScrollAreaWrapper>()),
+      scroll_area_(std::make_shared<ScrollAreaWrapper>(factory)),
       context_(context),
-      factory_(factory),
       survey_id_(survey_id),
-      undo_redo_(this)
+      undo_redo_(this),
+      factory_(factory)
 {
     context_.parameters = &params_;
     context_.current_pass = &depth_log_pass_;
@@ -126,19 +126,19 @@ CombinedDataViewWidget* ColumnWindow::CreateDataView(QString const& name, bool a
 
 BaseCombinedViewWidget* ColumnWindow::CreateDeviationView(QString const& name)
 {
-    return scroll_area_->CreateDeviationView(name, context_, this, factory_);
+    return scroll_area_->CreateDeviationView(name, context_, this);
 }
 
 BaseCombinedViewWidget* ColumnWindow::CreateZoneView(QString const& name)
 {
-    BaseCombinedViewWidget* pair = scroll_area_->CreateZoneView(name, context_, this, factory_);
+    BaseCombinedViewWidget* pair = scroll_area_->CreateZoneView(name, context_, this);
     ConnectComponentClicks(pair);
     return pair;
 }
 
 BaseCombinedViewWidget* ColumnWindow::CreateWellSketchView(QString const& name)
 {
-    BaseCombinedViewWidget* pair = scroll_area_->CreateWellSketchView(name, context_, this, factory_);
+    BaseCombinedViewWidget* pair = scroll_area_->CreateWellSketchView(name, context_, this);
     ConnectComponentClicks(pair);
     return pair;
 }
@@ -237,12 +237,17 @@ QString ColumnWindow::GenerateUniqueViewWidgetName(QString const& base) const
 
 void ColumnWindow::show()
 {
+    // The views appear with the column; none of them is shown or hidden by itself.
+    bool const was_changing = std::exchange(is_changing_visibility_, true);
     scroll_area_->show();
+    is_changing_visibility_ = was_changing;
 }
 
 void ColumnWindow::hide()
 {
+    bool const was_changing = std::exchange(is_changing_visibility_, true);
     scroll_area_->hide();
+    is_changing_visibility_ = was_changing;
 }
 
 void ColumnWindow::AddAddScrollAreaToLayout(QHBoxLayout* layout)

@@ -11,8 +11,8 @@
 #include "display/ColumnContext.h"
 #include "display/ColumnSlots.h"
 #include "display/ScreensMap.h"
-#include "model/FillAreaDefinition.h"
 #include "model/DataChannelIdentifier.h"
+#include "model/FillAreaDefinition.h"
 #include "well/Zone.h"
 
 #include <QHash>
@@ -25,7 +25,6 @@
 #include <memory>
 #include <optional>
 #include <utility>
-#include <vector>
 #include <vector>
 
 class AutomaticDataView;
@@ -122,6 +121,10 @@ public:
     /// Gives the pass's channels to its automatic views and shows some when no data view is visible yet.
     void AddImportedDepthLog(std::weak_ptr<DepthLogPass const> const& pass);
     void OnTimeLogAdded(std::weak_ptr<TimeLog const> const& log);
+    /// Gives the channels of a log from a project to the automatic views that were restored for them; makes
+    /// none.
+    void AddRestoredDepthLog(std::weak_ptr<DepthLogPass const> const& pass);
+    void AddRestoredTimeLog(std::weak_ptr<TimeLog const> const& log);
     void UpdateAutomaticDataViews(DepthLogPass const* pass);
     void UpdateAutomaticDataViews(std::weak_ptr<TimeLog const> const& log);
     /// For the user view of that name, or else the automatic one.
@@ -284,8 +287,6 @@ private slots:
     void OnscrollContentsBy(int dx, int dy);
 
 private:
-    static constexpr float zoom_factor_ = 2.0F;
-
     void ConnectScrollArea();
     void ZoomByButton(float factor);
     [[nodiscard]] std::optional<DataChannelIdentifier>
@@ -315,12 +316,14 @@ private:
     /// shows them in proportion.
     [[nodiscard]] std::optional<QList<int>> UnchangedRestoredSizes() const;
     void ApplyRestoredSizes();
+    /// What the project tells, or else what follows from the data.
+    void RestoreDepthIntervals(COLUMN_WINDOW_Struct const& record);
 
     struct CarriedView
     {
         std::shared_ptr<VIEW_WIDGET_BASE_STRUCT> record;
         int index;
-        int splitter_size;
+        std::optional<int> splitter_size; ///< none where the project does not tell
     };
     struct RestoredLayout
     {
@@ -328,18 +331,20 @@ private:
         QList<std::pair<QString, bool>> layout;
     };
 
-    std::unique_ptr<ScrollAreaWrapper> scroll_area_;
+    std::shared_ptr<ScrollAreaWrapper> scroll_area_;
     ColumnContext context_;
-    ViewFactory const* factory_;
+    ScreensMap screens_;
     int cursor_y_ = -1;
     BaseViewWidgetParameters params_;
     int survey_id_;
     CurrentDepthLogPass depth_log_pass_;
+    static constexpr float zoom_factor_ = 2.0F;
     UndoRedo undo_redo_;
     bool override_automatic_interval_ = false;
+
+    ViewFactory const* factory_;
     bool is_changing_visibility_ = false;
     AskAnchor ask_anchor_;
-    ScreensMap screens_;
     std::vector<CarriedView> carried_views_;
     std::optional<RestoredLayout> restored_layout_;
 };

@@ -8,13 +8,20 @@
 #include "display/CombinedDataViewWidget.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/UserDataView.h"
-#include "model/ViewObjectNames.h"
 #include "model/DepthLogPass.h"
 #include "model/TimeLog.h"
+#include "model/ViewObjectNames.h"
 
 #include <QRegularExpression>
 
 #include <algorithm>
+
+namespace {
+QString NameWithoutPostFix(QString const& name)
+{
+    return name.chopped(ColumnWindow::CheckForTimeLogPostFix(name).size());
+}
+} // namespace
 
 // The logs of the survey and the views that show their channels.
 
@@ -50,10 +57,12 @@ void ColumnWindow::UpdateAutomaticDataViews(DepthLogPass const* pass)
 {
     PrepareForFirstData();
     QHash<QString, AutomaticDataView*> views = AutomaticDataViewsByName();
-    for (QString const& name : pass->GetDataChannelNames()) {
+    // By channel, not by name: several curves of one pass may have the same mnemonic.
+    for (auto const& channel : pass->GetDataChannels()) {
+        QString const& name = channel->GetCurveInfo().mnemonic;
         AutomaticDataView*& view = views[name];
         if (view) {
-            AddDepthDataChannelToDataView(view, pass->GetDataChannel(pass->FindDataChannelByMnem(name)));
+            AddDepthDataChannelToDataView(view, channel);
         } else {
             view = CreateAutomaticDataView_AddDepthDataByMnem(name, pass);
         }
@@ -76,13 +85,38 @@ void ColumnWindow::UpdateAutomaticDataViews(std::weak_ptr<TimeLog const> const& 
     }
     PrepareForFirstData();
     QHash<QString, AutomaticDataView*> views = AutomaticDataViewsByName();
-    for (QString const& name : log->GetDataChannelNames()) {
-        QString const view_name = name.chopped(CheckForTimeLogPostFix(name).size());
+    for (auto const& channel : log->GetDataChannels()) {
+        QString const& name = channel->GetCurveInfo().mnemonic;
+        QString const view_name = NameWithoutPostFix(name);
         AutomaticDataView*& view = views[view_name];
         if (view) {
-            AddTimeLogDataChannelToDataView(view, log->GetDataChannel(log->FindDataChannelByMnem(name)));
+            AddTimeLogDataChannelToDataView(view, channel);
         } else {
             view = CreateAutomaticDataView_AddTimeDataByMnem(view_name, name, log.get());
+        }
+    }
+}
+
+void ColumnWindow::AddRestoredDepthLog(std::weak_ptr<DepthLogPass const> const& pass)
+{
+    if (std::shared_ptr<DepthLogPass const> const log = pass.lock()) {
+        QHash<QString, AutomaticDataView*> const views = AutomaticDataViewsByName();
+        for (auto const& channel : log->GetDataChannels()) {
+            if (AutomaticDataView* view = views.value(channel->GetCurveInfo().mnemonic)) {
+                AddDepthDataChannelToDataView(view, channel);
+            }
+        }
+    }
+}
+
+void ColumnWindow::AddRestoredTimeLog(std::weak_ptr<TimeLog const> const& time_log)
+{
+    if (std::shared_ptr<TimeLog const> const log = time_log.lock()) {
+        QHash<QString, AutomaticDataView*> const views = AutomaticDataViewsByName();
+        for (auto const& channel : log->GetDataChannels()) {
+            if (AutomaticDataView* view = views.value(NameWithoutPostFix(channel->GetCurveInfo().mnemonic))) {
+                AddTimeLogDataChannelToDataView(view, channel);
+            }
         }
     }
 }

@@ -16,9 +16,8 @@
 void ColumnWindow::MoveCursors(int y, float depth, QString const& text)
 {
     for (BaseCombinedViewWidget* pair : FindAllCombinedViewWidgets()) {
-        pair->MoveCursor(y);
+        pair->MoveCursor(y); // repaints what changes
     }
-    scroll_area_->UpdateViewport();
     emit UpdateStatusBar_Signal(depth, text);
     cursor_y_ = y;
 }
@@ -28,7 +27,6 @@ void ColumnWindow::RemoveCursors()
     for (BaseCombinedViewWidget* pair : FindAllCombinedViewWidgets()) {
         pair->RemoveCursor();
     }
-    scroll_area_->UpdateViewport();
     emit UpdateStatusBar_Signal(std::numeric_limits<float>::quiet_NaN(), QString());
     cursor_y_ = -1;
 }
@@ -166,5 +164,5 @@ void ColumnWindow::OnWellComponentClicked(Interval const& md, QString const& tex
             tvd.upper = static_cast<double>(bottom->tvd);
         }
     }
-    scroll_area_->AddOverlay(md, tvd, text, factory_);
+    scroll_area_->AddOverlay(md, tvd, text);
 }

@@ -10,16 +10,15 @@
 #include "formats/project/ViewRecords.h"
 
 #include <algorithm>
+#include <cmath>
 
 // Stored screens of a column, and its state as the record of a project file.
 
 namespace {
-template <typename Record, typename Write>
-std::shared_ptr<VIEW_WIDGET_BASE_STRUCT> MakeRecord(Write write)
+template <typename Record>
+std::shared_ptr<Record> Share(Record record)
 {
-    auto record = std::make_shared<Record>();
-    write(*record);
-    return record;
+    return std::make_shared<Record>(std::move(record));
 }
 } // namespace
 
@@ -29,15 +28,15 @@ ColumnWindow::WriteDataViewState(BaseCombinedViewWidget const& pair) const
     BaseViewWidget const* view = pair.GetBaseViewWidget();
     std::shared_ptr<VIEW_WIDGET_BASE_STRUCT> record;
     if (auto const* user = qobject_cast<UserDataView const*>(view)) {
-        record = MakeRecord<USER_DATAVIEW_STRUCT>([&](auto& state) { user->WriteState_UserDataView(state); });
+        record = Share(user->WriteState_UserDataView());
     } else if (auto const* automatic = qobject_cast<AutomaticDataView const*>(view)) {
-        record = MakeRecord<INTERMEDIATE_DATAVIEW_STRUCT>(
-            [&](auto& state) { automatic->WriteState_IntermediateDataView(state); });
+        record = Share(automatic->WriteState_IntermediateDataView());
     } else if (auto const* data = qobject_cast<BaseDataView const*>(view)) {
-        record = MakeRecord<BASE_DATAVIEW_STRUCT>([&](auto& state) { data->WriteState_BaseDataView(state); });
+        record = Share(data->WriteState_BaseDataView());
     } else {
-        record =
-            MakeRecord<VIEW_WIDGET_STRUCT>([&](auto& state) { state.name = pair.GetBaseViewWidgetName(); });
+        VIEW_WIDGET_STRUCT named;
+        named.name = pair.GetBaseViewWidgetName();
+        record = Share(std::move(named));
     }
     record->object_name = pair.GetBaseViewWidgetObjectName();
     record->is_visible = !pair.isHidden();
@@ -50,14 +49,18 @@ COLUMN_WINDOW_Struct ColumnWindow::WriteState_ColumnWindow() const
     record.view_depth_interval = GetViewDepth();
     record.override_interval = override_automatic_interval_;
     record.total_displayed_interval = GetTotalDisplayedInterval();
-    record.splitter_sizes = UnchangedRestoredSizes().value_or(scroll_area_->GetSplitterSizes());
+    auto const restored_sizes = UnchangedRestoredSizes();
+    record.splitter_sizes = restored_sizes.value_or(scroll_area_->GetSplitterSizes());
     for (BaseCombinedViewWidget const* pair : FindAllCombinedViewWidgets()) {
         record.views.push_back(WriteDataViewState(*pair));
     }
     for (auto const& carried : carried_views_) {
         auto const place = std::min<qsizetype>(carried.index, static_cast<qsizetype>(record.views.size()));
         record.views.insert(record.views.begin() + place, carried.record);
-        record.splitter_sizes.insert(std::min(place, record.splitter_sizes.size()), carried.splitter_size);
+        if (carried.splitter_size || !restored_sizes) { // else the project had fewer widths than views
+            record.splitter_sizes.insert(std::min(place, record.splitter_sizes.size()),
+                                         carried.splitter_size.value_or(0));
+        }
     }
     record.view_count = static_cast<int>(record.views.size());
     record.screens = screens_.WriteState_ScreensMap();
@@ -67,7 +70,7 @@ COLUMN_WINDOW_Struct ColumnWindow::WriteState_ColumnWindow() const
 
 void ColumnWindow::CarryView(std::shared_ptr<VIEW_WIDGET_BASE_STRUCT> record, int index)
 {
-    carried_views_.push_back({std::move(record), index, 0});
+    carried_views_.push_back({std::move(record), index, std::nullopt});
 }
 
 void ColumnWindow::RestoreState_ColumnWindow(COLUMN_WINDOW_Struct const& record)
@@ -79,16 +82,30 @@ void ColumnWindow::RestoreState_ColumnWindow(COLUMN_WINDOW_Struct const& record)
             carried->splitter_size = sizes.takeAt(carried->index);
         }
     }
-    override_automatic_interval_ = record.override_interval;
-    SetSplitterSizes(sizes);
+    scroll_area_->SetSplitterSizes(sizes); // the views tell themselves whether they are shown
     restored_layout_ = RestoredLayout{sizes, CurrentLayout()};
     screens_.RestoreState_SceensMap(record.screens);
     screens_.SetCurrentScreenName(record.current_screen_name);
-    params_.SetTotalDisplayedDepthInterval(record.total_displayed_interval);
-    params_.SetViewDepthMetric(record.view_depth_interval);
+    RestoreDepthIntervals(record);
     OnScaleHeightChanged();
     UpdateScrollBar();
     RedrawAllViewWidgets();
+}
+
+void ColumnWindow::RestoreDepthIntervals(COLUMN_WINDOW_Struct const& record)
+{
+    auto const has_length = [](Interval const& interval) {
+        return std::isfinite(interval.Delta()) && interval.Delta() != 0;
+    };
+    override_automatic_interval_ = false;
+    OnVisibleWidgetDataChanged(); // for a project that does not tell
+    if (has_length(record.total_displayed_interval)) {
+        override_automatic_interval_ = record.override_interval;
+        params_.SetTotalDisplayedDepthInterval(record.total_displayed_interval);
+    }
+    params_.SetViewDepthMetric(has_length(record.view_depth_interval)
+                                   ? record.view_depth_interval
+                                   : params_.GetTotalDisplayedDepthInterval());
 }
 
 QList<std::pair<QString, bool>> ColumnWindow::CurrentLayout() const
@@ -121,7 +138,9 @@ void ColumnWindow::SaveScreen(QString const& name)
     auto const sizes = scroll_area_->GetSplitterSizes();
     auto const pairs = FindAllCombinedViewWidgets();
     for (qsizetype i = 0; i < std::min(pairs.size(), sizes.size()); ++i) {
-        screen->emplace_back(pairs[i]->GetBaseViewWidgetName(), pairs[i]->isHidden() ? 0 : sizes[i]);
+        // A column that was never on screen has no widths yet, but 0 stands for hidden.
+        screen->emplace_back(pairs[i]->GetBaseViewWidgetName(),
+                             pairs[i]->isHidden() ? 0 : std::max(sizes[i], 1));
     }
     screens_.AddScreen(name, std::move(screen));
     screens_.SetCurrentScreenName(name);
@@ -135,8 +154,13 @@ void ColumnWindow::RestoreScreen(QString const& name)
     }
     QList<int> sizes;
     for (auto const& [view, size] : *screen) {
-        if (BaseCombinedViewWidget* pair = FindCombinedViewWidget(view)) {
-            scroll_area_->InsertSplitterWidget(static_cast<int>(sizes.size()), pair);
+        // Two views may have one name; those in front are placed already.
+        auto const rest = FindAllCombinedViewWidgets().mid(sizes.size());
+        auto const found = std::find_if(rest.begin(), rest.end(), [&name = view](auto const* pair) {
+            return pair->GetBaseViewWidgetName() == name;
+        });
+        if (found != rest.end()) {
+            scroll_area_->InsertSplitterWidget(static_cast<int>(sizes.size()), *found);
             sizes.append(size);
         }
     }

@@ -10,8 +10,8 @@
 #include "display/DepthAxis.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/UserDataView.h"
-#include "model/ViewObjectNames.h"
 #include "display/ViewOrder.h"
+#include "model/ViewObjectNames.h"
 
 #include <QSet>
 
@@ -33,6 +33,7 @@ void ColumnWindow::UpdateVisibleViewWidgets(QList<QString> const& names)
         }
         slots_in_order.push_back(slot);
     }
+    restored_layout_.reset();
     slots_in_order = Quorrel::ArrangeViews(std::move(slots_in_order), names, scroll_area_->GetWidth());
 
     ChangeVisibility([&] {
@@ -67,6 +68,7 @@ void ColumnWindow::SortViewWidgets(QList<QString> const& names)
 void ColumnWindow::SetSplitterSizes(QList<int> const& sizes)
 {
     QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
+    restored_layout_.reset();
     ChangeVisibility([&] {
         for (int i = 0; i < std::min(pairs.size(), sizes.size()); ++i) {
             pairs[i]->setVisible(sizes[i] != 0);
@@ -107,6 +109,7 @@ void ColumnWindow::DisplayFirstCVWs()
 
 void ColumnWindow::ShareWidth()
 {
+    restored_layout_.reset();
     // Left to itself the splitter would give the new views no more than their least width.
     QList<BaseCombinedViewWidget*> const pairs = FindAllCombinedViewWidgets();
     QList<int> sizes(pairs.size(), 0);

@@ -55,7 +55,15 @@ void ColumnWindow::OnVisibleWidgetDataChanged()
     if (override_automatic_interval_) {
         return;
     }
-    if (std::optional<Interval> const total = GetTotalVisibleDepthInterval()) {
+    std::optional<Interval> const total = GetTotalVisibleDepthInterval();
+    if (!total) {
+        return;
+    }
+    if (*total == params_.GetTotalDisplayedDepthInterval()) {
+        // Not set again: that would undo a zoom whose view sticks out of the total.
+        UpdateScrollBar();
+        RedrawAllViewWidgets();
+    } else {
         SetTotalDisplayedInterval(*total);
     }
 }

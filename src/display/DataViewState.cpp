@@ -6,13 +6,15 @@
 
 // How data views hand themselves to and take themselves from the records of a project file.
 
-void BaseDataView::WriteState_BaseDataView(BASE_DATAVIEW_STRUCT& record) const
+BASE_DATAVIEW_STRUCT BaseDataView::WriteState_BaseDataView() const
 {
+    BASE_DATAVIEW_STRUCT record;
     record.object_name = objectName();
     record.name = windowTitle();
     record.show_markers_a = show_markers_a_;
     record.show_markers_b = show_markers_b_;
     record.show_baseline = show_baseline_;
+    return record;
 }
 
 void BaseDataView::RestoreState_BaseDataView(BASE_DATAVIEW_STRUCT const& record)
@@ -22,16 +24,17 @@ void BaseDataView::RestoreState_BaseDataView(BASE_DATAVIEW_STRUCT const& record)
     SetShowBaseline(record.show_baseline);
 }
 
-void IntermediateDataView::WriteState_IntermediateDataView(INTERMEDIATE_DATAVIEW_STRUCT& record) const
+INTERMEDIATE_DATAVIEW_STRUCT IntermediateDataView::WriteState_IntermediateDataView() const
 {
-    WriteState_BaseDataView(record);
-    record.scales.clear();
+    INTERMEDIATE_DATAVIEW_STRUCT record;
+    static_cast<BASE_DATAVIEW_STRUCT&>(record) = WriteState_BaseDataView();
     for (auto const& scale : GetScales()) {
         // A copy: the file is written while the view may go on.
         auto copy = std::make_shared<ScaleItemParameters>(*scale);
         copy->is_selected = selected_scale_ && selected_scale_->index == scale->index;
         record.scales.push_back(std::move(copy));
     }
+    return record;
 }
 
 void IntermediateDataView::RestoreState_IntermediateDataView(INTERMEDIATE_DATAVIEW_STRUCT const& record)
@@ -47,15 +50,44 @@ void IntermediateDataView::RestoreState_IntermediateDataView(INTERMEDIATE_DATAVI
     }
 }
 
-void UserDataView::WriteState_UserDataView(USER_DATAVIEW_STRUCT& record) const
+void DepthCurveVector::WriteState(USER_DATAVIEW_STRUCT& record) const
 {
-    WriteState_IntermediateDataView(record);
-    record.curves = GetDataChannelIDs();
+    record.curves.clear();
+    for (DepthCurve const& curve : *this) {
+        record.curves.push_back(curve.GetDataChannelIdentifier());
+    }
+}
+
+void DepthCurveVector::RestoreState(USER_DATAVIEW_STRUCT const& record)
+{
+    for (auto const& stored : record.scales) {
+        auto const index = static_cast<std::size_t>(stored->index);
+        DepthCurve* const curve = index < record.curves.size() ? Find(record.curves[index]) : nullptr;
+        if (curve != nullptr) {
+            curve->SetScales(stored->scale);
+            curve->SetCurvePen(stored->pen);
+            curve->GetScaleItemParameters()->is_selected = stored->is_selected;
+        }
+    }
+}
+
+USER_DATAVIEW_STRUCT UserDataView::WriteState_UserDataView() const
+{
+    USER_DATAVIEW_STRUCT record;
+    static_cast<INTERMEDIATE_DATAVIEW_STRUCT&>(record) = WriteState_IntermediateDataView();
+    depth_curves_.WriteState(record);
     record.fill_areas = fill_areas_;
+    return record;
 }
 
 void UserDataView::RestoreState_UserDataView(USER_DATAVIEW_STRUCT const& record)
 {
-    RestoreState_IntermediateDataView(record);
+    RestoreState_BaseDataView(record);
+    depth_curves_.RestoreState(record);
     SetFillAreaDefinitions(record.fill_areas);
+    for (auto const& scale : GetScales()) {
+        if (scale->is_selected) {
+            SetSelectedScaleCurveInfo(scale); // instead of the first curve, which was selected on its arrival
+        }
+    }
 }

@@ -3,9 +3,8 @@
 
 #include "display/DepthCurve.h"
 
-#include "display/CurveBinning.h"
-#include "model/ScaleItemParameters.h"
 #include "model/BaseDepthDataChannel.h"
+#include "model/ScaleItemParameters.h"
 
 #include <algorithm>
 #include <cmath>

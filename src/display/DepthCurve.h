@@ -5,7 +5,7 @@
 
 #include "app/kit/ScalarTypes.h"
 #include "display/BaseCurve.h"
-#include "display/CurveBin.h"
+#include "display/CurveBinning.h"
 #include "model/DataChannelIdentifier.h"
 
 #include <cstdint>
@@ -38,7 +38,7 @@ public:
     /// Frees the bin levels.
     void ClearProcessedCurve();
     /// How many values or bins of one level go into a bin of the next.
-    [[nodiscard]] static constexpr int GetBinFactor() { return 3; }
+    [[nodiscard]] static constexpr int GetBinFactor() { return static_cast<int>(Quorrel::CURVE_BIN_FACTOR); }
     /// The finest level first.
     [[nodiscard]] std::vector<BinLevel> const& GetBinLevels() const { return bin_levels_; }
     /// The coarsest level that still has more than one bin per pixel, otherwise the finest; null without

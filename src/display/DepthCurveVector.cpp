@@ -14,15 +14,25 @@ DepthCurveVector::AssignDataChannel(std::weak_ptr<BaseDepthDataChannel const> co
     if (!data) {
         return {false, nullptr};
     }
-    auto const present = std::find_if(begin(), end(), [&](DepthCurve const& curve) {
-        return curve.GetDataChannelIdentifier() == data->GetDataChannelIdentifier();
-    });
-    if (present != end()) {
-        return {false, &*present};
+    if (DepthCurve* const present = Find(data->GetDataChannelIdentifier())) {
+        return {false, present};
     }
     DepthCurve& curve = emplace_back(channel);
     curve.SetCurvePen(pen);
     return {true, &curve};
+}
+
+DepthCurve const* DepthCurveVector::Find(DataChannelIdentifier const& identifier) const
+{
+    auto const curve = std::find_if(begin(), end(), [&](DepthCurve const& candidate) {
+        return candidate.GetDataChannelIdentifier() == identifier;
+    });
+    return curve != end() ? &*curve : nullptr;
+}
+
+DepthCurve* DepthCurveVector::Find(DataChannelIdentifier const& identifier)
+{
+    return const_cast<DepthCurve*>(std::as_const(*this).Find(identifier));
 }
 
 void DepthCurveVector::RemoveDataChannel(DataChannelIdentifier const& identifier)

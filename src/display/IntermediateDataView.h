@@ -17,7 +17,7 @@ public:
     void RenderToPainter(QPainter& painter, Interval const& interval, double dpi, bool on_screen) override;
 
     /// The base view's state and the scales, to and from the record of a project file.
-    void WriteState_IntermediateDataView(INTERMEDIATE_DATAVIEW_STRUCT& record) const;
+    [[nodiscard]] INTERMEDIATE_DATAVIEW_STRUCT WriteState_IntermediateDataView() const;
     /// Takes the scales, pens and the selection of records by their index; the curves are there already.
     void RestoreState_IntermediateDataView(INTERMEDIATE_DATAVIEW_STRUCT const& record);
 

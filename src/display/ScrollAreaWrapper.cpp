@@ -29,8 +29,9 @@ namespace {
 constexpr int MINIMUM_VIEW_WIDTH = 20;
 } // namespace
 
-ScrollAreaWrapper::ScrollAreaWrapper(QObject* parent)
+ScrollAreaWrapper::ScrollAreaWrapper(ViewFactory const* factory, QObject* parent)
     : QObject(parent),
+      factory_(factory),
       scroll_area_(new MyAbstractScrollArea),
       splitter_(new QSplitter(Qt::Horizontal, scroll_area_->viewport()))
 {
@@ -82,25 +83,23 @@ CombinedDataViewWidget* ScrollAreaWrapper::CreateDataView(QString const& name, C
 }
 
 BaseCombinedViewWidget* ScrollAreaWrapper::CreateZoneView(QString const& name, ColumnContext const& context,
-                                                          ColumnSlots* column, ViewFactory const* factory)
+                                                          ColumnSlots* column)
 {
-    return AppendFactoryPair(factory ? factory->CreateZoneView(name, context) : nullptr, name, column);
+    return AppendFactoryPair(factory_ ? factory_->CreateZoneView(name, context) : nullptr, name, column);
 }
 
-BaseCombinedViewWidget* ScrollAreaWrapper::CreateDeviationView(QString const& name,
-                                                               ColumnContext const& context,
-                                                               ColumnSlots* column,
-                                                               ViewFactory const* factory)
+BaseCombinedViewWidget*
+ScrollAreaWrapper::CreateDeviationView(QString const& name, ColumnContext const& context, ColumnSlots* column)
 {
-    return AppendFactoryPair(factory ? factory->CreateDeviationView(name, context) : nullptr, name, column);
+    return AppendFactoryPair(factory_ ? factory_->CreateDeviationView(name, context) : nullptr, name, column);
 }
 
 BaseCombinedViewWidget* ScrollAreaWrapper::CreateWellSketchView(QString const& name,
                                                                 ColumnContext const& context,
-                                                                ColumnSlots* column,
-                                                                ViewFactory const* factory)
+                                                                ColumnSlots* column)
 {
-    return AppendFactoryPair(factory ? factory->CreateWellSketchView(name, context) : nullptr, name, column);
+    return AppendFactoryPair(factory_ ? factory_->CreateWellSketchView(name, context) : nullptr, name,
+                             column);
 }
 
 BaseCombinedViewWidget* ScrollAreaWrapper::AppendFactoryPair(BaseCombinedViewWidget* pair,
@@ -170,13 +169,14 @@ QList<int> ScrollAreaWrapper::GetSplitterSizes() const
 
 void ScrollAreaWrapper::SetSplitterSizes(QList<int> const& sizes)
 {
-    // A hidden view keeps the room it asks for when it is shown again, or a share like that of the others.
+    // A view without a width, as a hidden one, gets the room it asks for, or a share like that of the others.
     QList<int> rooms = sizes;
+    rooms.resize(splitter_->count());
     int const shown =
-        static_cast<int>(std::count_if(sizes.begin(), sizes.end(), [](int size) { return size > 0; }));
-    for (int i = 0; i < std::min(splitter_->count(), static_cast<int>(rooms.size())); ++i) {
+        static_cast<int>(std::count_if(rooms.begin(), rooms.end(), [](int size) { return size > 0; }));
+    for (int i = 0; i < splitter_->count(); ++i) {
         QWidget const* pair = splitter_->widget(i);
-        if (rooms[i] == 0 && pair->isHidden()) {
+        if (rooms[i] <= 0) {
             bool const has_own_width = pair->sizePolicy().horizontalPolicy() == QSizePolicy::Preferred;
             rooms[i] = has_own_width ? pair->sizeHint().width() : GetWidth() / (shown + 1);
         }
@@ -287,13 +287,12 @@ int ScrollAreaWrapper::GetScrollBarValue() const
     return scroll_area_->verticalScrollBar()->value();
 }
 
-void ScrollAreaWrapper::AddOverlay(Interval const& md, Interval const& tvd, QString const& text,
-                                   ViewFactory const* factory)
+void ScrollAreaWrapper::AddOverlay(Interval const& md, Interval const& tvd, QString const& text)
 {
-    if (!factory) {
+    if (!factory_) {
         return;
     }
-    if (QWidget* overlay = factory->CreateComponentInfoOverlay(scroll_area_->viewport(), md, tvd, text)) {
+    if (QWidget* overlay = factory_->CreateComponentInfoOverlay(scroll_area_->viewport(), md, tvd, text)) {
         overlay->show();
         overlay->raise();
     }

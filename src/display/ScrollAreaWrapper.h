@@ -33,7 +33,9 @@ class ScrollAreaWrapper final : public QObject
 {
     Q_OBJECT
 public:
-    explicit ScrollAreaWrapper(QObject* parent = nullptr);
+    /// @param factory makes the zone, deviation and sketch views and the information box; null for none of
+    /// them. Outlives this object.
+    explicit ScrollAreaWrapper(ViewFactory const* factory, QObject* parent = nullptr);
     ~ScrollAreaWrapper() override;
 
     /// The creators give a hidden pair, wired to `column` and to this object's own signals, with its header
@@ -43,13 +45,13 @@ public:
     /// An automatic view, or a user view.
     CombinedDataViewWidget* CreateDataView(QString const& name, ColumnContext const& context,
                                            ColumnSlots* column, bool automatic);
-    /// These three ask `factory` and return null without one, or when it does not make that view.
+    /// These three ask the factory and return null without one, or when it does not make that view.
     BaseCombinedViewWidget* CreateZoneView(QString const& name, ColumnContext const& context,
-                                           ColumnSlots* column, ViewFactory const* factory);
+                                           ColumnSlots* column);
     BaseCombinedViewWidget* CreateDeviationView(QString const& name, ColumnContext const& context,
-                                                ColumnSlots* column, ViewFactory const* factory);
+                                                ColumnSlots* column);
     BaseCombinedViewWidget* CreateWellSketchView(QString const& name, ColumnContext const& context,
-                                                 ColumnSlots* column, ViewFactory const* factory);
+                                                 ColumnSlots* column);
 
     [[nodiscard]] int GetSplitterCount() const;
     /// Null for an index out of range.
@@ -88,7 +90,7 @@ public:
     [[nodiscard]] int GetScrollBarValue() const;
 
     /// Opens the information box of a well component over the views; depths in metres.
-    void AddOverlay(Interval const& md, Interval const& tvd, QString const& text, ViewFactory const* factory);
+    void AddOverlay(Interval const& md, Interval const& tvd, QString const& text);
 
     void AddToLayout(QHBoxLayout* layout);
     void show();
@@ -120,6 +122,7 @@ private:
     static void ConnectDataView(CombinedDataViewWidget const* pair, ColumnSlots const* column);
     void AppendPair(BaseCombinedViewWidget* pair, QString const& name);
 
+    ViewFactory const* factory_;
     QPointer<MyAbstractScrollArea> scroll_area_;
     QPointer<QSplitter> splitter_;
 };

@@ -9,8 +9,6 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 
-#include <algorithm>
-
 namespace {
 /// The dragged channel; nothing for items that a user view does not take.
 std::optional<DataChannelIdentifier> DraggedChannel(QDropEvent const& event)
@@ -68,18 +66,9 @@ void UserDataView::SetName(QString const& name)
     emit SetScaleName_Signal(name);
 }
 
-DepthCurve* UserDataView::FindCurve(DataChannelIdentifier const& identifier)
-{
-    return const_cast<DepthCurve*>(GetCurve(identifier));
-}
-
 DepthCurve const* UserDataView::GetCurve(DataChannelIdentifier const& identifier) const
 {
-    auto const curve =
-        std::find_if(depth_curves_.begin(), depth_curves_.end(), [&](DepthCurve const& candidate) {
-            return candidate.GetDataChannelIdentifier() == identifier;
-        });
-    return curve != depth_curves_.end() ? &*curve : nullptr;
+    return depth_curves_.Find(identifier);
 }
 
 std::vector<DataChannelIdentifier> UserDataView::GetDataChannelIDs() const
@@ -100,7 +89,7 @@ QPen UserDataView::GetPenFromDci(DataChannelIdentifier const& identifier) const
 
 void UserDataView::SetPen(DataChannelIdentifier const& identifier, QPen const& pen)
 {
-    if (DepthCurve* const curve = FindCurve(identifier)) {
+    if (DepthCurve* const curve = depth_curves_.Find(identifier)) {
         curve->SetCurvePen(pen);
         ForceRedraw();
         UpdateScales();

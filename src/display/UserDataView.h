@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "model/ViewObjectNames.h"
-#include "model/FillAreaDefinition.h"
 #include "display/FillAreaSource.h"
 #include "display/IntermediateDataView.h"
+#include "model/FillAreaDefinition.h"
+#include "model/ViewObjectNames.h"
 
 struct USER_DATAVIEW_STRUCT;
 
@@ -40,8 +40,9 @@ public:
     [[nodiscard]] Interval GetCurveScale(DataChannelIdentifier const& identifier) const override;
     [[nodiscard]] std::vector<DataChannelIdentifier> GetDataChannelIDs() const;
 
-    /// The intermediate view's state, the channels and the fills, to and from the record of a project file.
-    void WriteState_UserDataView(USER_DATAVIEW_STRUCT& record) const;
+    /// The intermediate view's state, the channels and the fills, to the record of a project file.
+    [[nodiscard]] USER_DATAVIEW_STRUCT WriteState_UserDataView() const;
+    /// Takes the state of those of the record's channels that the view shows already.
     void RestoreState_UserDataView(USER_DATAVIEW_STRUCT const& record);
 
 signals:
@@ -55,7 +56,5 @@ protected:
     [[nodiscard]] DragTarget GetDragTarget() const override;
 
 private:
-    [[nodiscard]] DepthCurve* FindCurve(DataChannelIdentifier const& identifier);
-
     std::vector<FillAreaDefinition> fill_areas_;
 };

@@ -20,6 +20,8 @@
 namespace {
 using namespace view_bench;
 
+using Records = std::vector<std::shared_ptr<ScaleItemParameters>>;
+
 /// Three curves, of which the second is selected.
 class Target final : public ScaleEditTarget
 {
@@ -37,11 +39,8 @@ public:
         }
     }
 
-    [[nodiscard]] std::vector<std::shared_ptr<ScaleItemParameters>> GetScales() const override
-    {
-        return records;
-    }
-    void SetScales(std::vector<std::shared_ptr<ScaleItemParameters>> scales) override
+    [[nodiscard]] Records GetScales() const override { return records; }
+    void SetScales(Records scales) override
     {
         ++set_count;
         set = std::move(scales);
@@ -57,59 +56,53 @@ public:
         return {Interval(7, 7), Interval(0, 100), Interval()};
     }
 
-    std::vector<std::shared_ptr<ScaleItemParameters>> records;
-    std::vector<std::shared_ptr<ScaleItemParameters>> set;
+    Records records;
+    Records set;
     int set_count = 0;
 };
 
 class ScaleDialogTest : public ::testing::Test
 {
 protected:
-    ScaleDialogTest() : dialog(nullptr, &target) {}
-
-    template <typename Widget>
-    Widget* Find(char const* name)
-    {
-        auto* const widget = dialog.findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
-    }
+    QLineEdit* Edit(char const* name) { return dialog.findChild<QLineEdit*>(name); }
+    void Choose(int curve) { dialog.findChild<QComboBox*>("cb_curves")->setCurrentIndex(curve); }
     void Type(char const* name, QString const& text)
     {
-        auto* const edit = Find<QLineEdit>(name);
-        edit->selectAll();
-        QTest::keyClicks(edit, text);
+        Edit(name)->selectAll();
+        QTest::keyClicks(Edit(name), text);
     }
-    void Click(char const* name) { Find<QPushButton>(name)->click(); }
+    void Click(char const* name) { dialog.findChild<QPushButton*>(name)->click(); }
     QPushButton* Button(QDialogButtonBox::StandardButton which)
     {
         return dialog.findChild<QDialogButtonBox*>()->button(which);
     }
-    [[nodiscard]] QString Left() { return Find<QLineEdit>("le_left")->text(); }
-    [[nodiscard]] QString Right() { return Find<QLineEdit>("le_right")->text(); }
+    /// What stands in the two edits.
+    [[nodiscard]] QStringList Ends() { return {Edit("le_left")->text(), Edit("le_right")->text()}; }
+    /// The scales that Apply hands over.
+    std::vector<Interval> Apply()
+    {
+        Button(QDialogButtonBox::Apply)->click();
+        std::vector<Interval> scales;
+        for (auto const& record : target.set) {
+            scales.push_back(record->scale);
+        }
+        return scales;
+    }
 
     Bench bench;
     Target target;
-    BaseScaleDialog dialog;
+    BaseScaleDialog dialog{nullptr, &target};
 };
 
 TEST_F(ScaleDialogTest, EditsCopiesUntilApplied)
 {
-    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Scales Dialog"));
-    EXPECT_EQ(Find<QComboBox>("cb_curves")->currentIndex(), 1) << "begins with the selected curve";
-    EXPECT_EQ(Left(), QStringLiteral("1"));
-    EXPECT_EQ(Right(), QStringLiteral("11"));
-    Type("le_left", QStringLiteral("-2.5"));
-    EXPECT_EQ(target.records[1]->scale, Interval(1, 11));
+    EXPECT_EQ(Ends(), (QStringList{"1", "11"})) << "begins with the selected curve";
+    Type("le_left", "-2.5");
     EXPECT_EQ(target.set_count, 0);
-    Button(QDialogButtonBox::Apply)->click();
+    EXPECT_EQ(Apply(), (std::vector{Interval(0, 10), Interval(-2.5, 11), Interval(2, 12)}));
     EXPECT_EQ(target.set_count, 1);
-    ASSERT_EQ(target.set.size(), 3U);
-    EXPECT_EQ(target.set[1]->scale, Interval(-2.5, 11));
-    EXPECT_EQ(target.set[0]->scale, Interval(0, 10));
     EXPECT_NE(target.set[1], target.records[1]) << "a copy, so that the view sees what differs";
     Button(QDialogButtonBox::Cancel)->click();
-    EXPECT_EQ(target.set_count, 1);
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
     Button(QDialogButtonBox::Ok)->click();
     EXPECT_EQ(target.set_count, 2);
@@ -118,122 +111,99 @@ TEST_F(ScaleDialogTest, EditsCopiesUntilApplied)
 
 TEST_F(ScaleDialogTest, ChangingTheCurveStoresTheOneLeft)
 {
-    Type("le_right", QStringLiteral("77"));
-    Find<QComboBox>("cb_curves")->setCurrentIndex(2);
-    EXPECT_EQ(Left(), QStringLiteral("2"));
-    Type("le_left", QStringLiteral("abc"));
+    Type("le_right", "77");
+    Choose(2);
+    EXPECT_EQ(Ends(), (QStringList{"2", "12"}));
+    Type("le_left", "abc");
     EXPECT_FALSE(Button(QDialogButtonBox::Ok)->isEnabled());
-    Find<QComboBox>("cb_curves")->setCurrentIndex(1);
-    EXPECT_EQ(Right(), QStringLiteral("77"));
+    Choose(1);
+    EXPECT_EQ(Ends(), (QStringList{"1", "77"}));
     EXPECT_TRUE(Button(QDialogButtonBox::Ok)->isEnabled()) << "the faulty text is gone";
-    Button(QDialogButtonBox::Apply)->click();
-    EXPECT_EQ(target.set[1]->scale, Interval(1, 77));
-    EXPECT_EQ(target.set[2]->scale, Interval(2, 12)) << "text that is no number is not stored";
+    EXPECT_EQ(Apply(), (std::vector{Interval(0, 10), Interval(1, 77), Interval(2, 12)}));
 }
 
 TEST_F(ScaleDialogTest, FaultyInputDisablesAndMarks)
 {
-    QString const good = Find<QLineEdit>("le_left")->styleSheet();
-    EXPECT_EQ(good, QStringLiteral("QLineEdit { background: ;}"));
+    auto* const left = Edit("le_left");
+    QString const good = left->styleSheet();
+    std::vector<QPushButton*> const applying{Button(QDialogButtonBox::Ok), Button(QDialogButtonBox::Apply),
+                                             dialog.findChild<QPushButton*>("pb_apply_to_all"),
+                                             dialog.findChild<QPushButton*>("pb_apply_to_similar")};
     for (char const* const text : {"", "x", "1.2.3", "nan", "inf", "1e99"}) {
-        Find<QLineEdit>("le_left")->setText(QString::fromLatin1(text));
-        EXPECT_NE(Find<QLineEdit>("le_left")->styleSheet(), good) << text;
-        EXPECT_FALSE(Button(QDialogButtonBox::Ok)->isEnabled()) << text;
-        EXPECT_FALSE(Button(QDialogButtonBox::Apply)->isEnabled()) << text;
-        EXPECT_FALSE(Find<QPushButton>("pb_apply_to_all")->isEnabled()) << text;
-        EXPECT_FALSE(Find<QPushButton>("pb_apply_to_similar")->isEnabled()) << text;
+        left->setText(text);
+        EXPECT_NE(left->styleSheet(), good) << text;
+        for (QPushButton const* const button : applying) {
+            EXPECT_FALSE(button->isEnabled()) << text;
+        }
     }
     EXPECT_TRUE(Button(QDialogButtonBox::Cancel)->isEnabled());
-    Type("le_right", QStringLiteral("5"));
-    EXPECT_FALSE(Button(QDialogButtonBox::Ok)->isEnabled()) << "the other edit is still faulty";
-    Type("le_left", QStringLiteral("9"));
-    EXPECT_TRUE(Button(QDialogButtonBox::Ok)->isEnabled());
-    EXPECT_EQ(Find<QLineEdit>("le_left")->styleSheet(), good);
-    Button(QDialogButtonBox::Apply)->click();
-    EXPECT_EQ(target.set[1]->scale, Interval(9, 5));
+    Type("le_right", "5");
+    EXPECT_FALSE(applying[0]->isEnabled()) << "the other edit is still faulty";
+    Type("le_left", "9");
+    EXPECT_TRUE(applying[0]->isEnabled());
+    EXPECT_EQ(left->styleSheet(), good);
+    EXPECT_EQ(Apply()[1], Interval(9, 5));
 }
 
 TEST_F(ScaleDialogTest, AppliesToAllOrToTheSameUnit)
 {
-    Find<QComboBox>("cb_curves")->setCurrentIndex(0);
-    Type("le_left", QStringLiteral("40"));
-    Type("le_right", QStringLiteral("50"));
+    Choose(0);
+    Type("le_left", "40");
+    Type("le_right", "50");
     Click("pb_apply_to_similar");
     EXPECT_EQ(target.set_count, 0) << "the view is not touched yet";
-    Button(QDialogButtonBox::Apply)->click();
-    EXPECT_EQ(target.set[0]->scale, Interval(40, 50));
-    EXPECT_EQ(target.set[1]->scale, Interval(1, 11)) << "another unit";
-    EXPECT_EQ(target.set[2]->scale, Interval(40, 50)) << "M and m are the same";
+    EXPECT_EQ(Apply(), (std::vector{Interval(40, 50), Interval(1, 11), Interval(40, 50)})) << "M is m";
+    Choose(2);
+    Type("le_right", "60");
+    Click("pb_apply_to_similar");
+    EXPECT_EQ(Apply(), (std::vector{Interval(40, 60), Interval(1, 11), Interval(40, 60)})) << "m is M";
     Click("pb_apply_to_all");
-    Button(QDialogButtonBox::Apply)->click();
-    EXPECT_EQ(target.set[1]->scale, Interval(40, 50));
+    EXPECT_EQ(Apply(), std::vector(3, Interval(40, 60)));
 }
 
 TEST_F(ScaleDialogTest, FitsTheCurrentCurve)
 {
     Click("pb_entire_interval");
-    EXPECT_EQ(Left(), QStringLiteral("-40"));
-    EXPECT_EQ(Right(), QStringLiteral("-10"));
+    EXPECT_EQ(Ends(), (QStringList{"-40", "-10"}));
     Click("pb_visible_interval");
-    EXPECT_EQ(Left(), QStringLiteral("0"));
-    EXPECT_EQ(Right(), QStringLiteral("100"));
-    Find<QComboBox>("cb_curves")->setCurrentIndex(0);
-    Type("le_left", QStringLiteral("x"));
+    EXPECT_EQ(Ends(), (QStringList{"0", "100"}));
+    Choose(0);
+    Type("le_left", "x");
     Click("pb_visible_interval");
-    EXPECT_EQ(Left(), QStringLiteral("6"));
-    EXPECT_EQ(Right(), QStringLiteral("8"));
+    EXPECT_EQ(Ends(), (QStringList{"6", "8"}));
     EXPECT_TRUE(Button(QDialogButtonBox::Ok)->isEnabled());
-    Find<QComboBox>("cb_curves")->setCurrentIndex(2);
+    Choose(2);
     Click("pb_entire_interval");
-    EXPECT_EQ(Left(), QStringLiteral("2")) << "no values, no change";
+    EXPECT_EQ(Ends(), (QStringList{"2", "12"})) << "no values, no change";
 }
 
-TEST(ScaleDialog, ReadsAndShowsEachNumberFormat)
+TEST_F(ScaleDialogTest, ReadsAndShowsEachNumberFormat)
 {
-    struct Format
-    {
-        Separator_Selection selection;
-        char const* typed;
-        QString shown;
-    };
-    for (Format const& format :
-         {Format{US, "1234.5", QStringLiteral("1,234.5")},
-          Format{International, "1234,5", QStringLiteral("1.234,5")},
-          Format{AlternativeInternational, "1234,5", QStringLiteral("1\u202f234,5")}}) {
-        Bench const bench;
-        SettingsSingleton::Instance().SetSeparatorSelection(format.selection);
-        Target target;
-        BaseScaleDialog dialog(nullptr, &target);
-        auto* const edit = dialog.findChild<QLineEdit*>(QStringLiteral("le_right"));
-        edit->selectAll();
-        QTest::keyClicks(edit, QString::fromLatin1(format.typed));
-        auto* const box = dialog.findChild<QComboBox*>();
-        box->setCurrentIndex(0);
-        box->setCurrentIndex(1);
-        EXPECT_EQ(edit->text(), format.shown);
-        dialog.OnApply();
-        EXPECT_EQ(target.set[1]->scale, Interval(1, 1234.5));
+    for (auto const& [selection, typed, shown] :
+         {std::tuple(US, "1234.5", "1,234.5"), std::tuple(International, "1234,5", "1.234,5"),
+          std::tuple(AlternativeInternational, "1234,5", "1\u202f234,5")}) {
+        SettingsSingleton::Instance().SetSeparatorSelection(selection);
+        Choose(1);
+        Type("le_right", typed);
+        Choose(0);
+        Choose(1);
+        EXPECT_EQ(Ends()[1], shown);
+        EXPECT_EQ(Apply()[1], Interval(1, 1234.5));
     }
 }
 
-TEST(ScaleDialog, KeepsDigitsThatAreNotShown)
+TEST(ScaleDialog, KeepsDigitsThatAreNotShownAndOpensWithoutCurves)
 {
     Bench const bench;
     Target target;
     target.records[1]->scale = Interval(1234567.25, 0.123456789012);
-    BaseScaleDialog dialog(nullptr, &target);
-    dialog.OnApply();
+    BaseScaleDialog(nullptr, &target).OnApply();
     EXPECT_EQ(target.set[1]->scale, Interval(1234567.25, 0.123456789012));
-}
-
-TEST(ScaleDialog, OpensOnAViewWithoutCurves)
-{
-    Bench const bench;
-    Target target;
     target.records.clear();
     BaseScaleDialog dialog(nullptr, &target);
     dialog.findChild<ChannelsScaleWidget*>()->OnEntireInterval();
     dialog.OnAccept();
     EXPECT_TRUE(target.set.empty());
 }
+
 } // namespace

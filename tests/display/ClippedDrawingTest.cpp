@@ -3,11 +3,7 @@
 
 #include "display/ClippedDrawing.h"
 
-#include <QImage>
-#include <QPainter>
-#include <QPen>
-
-#include <gtest/gtest.h>
+#include "support/Pixels.h"
 
 #include <chrono>
 #include <limits>
@@ -19,16 +15,13 @@ constexpr double INF = std::numeric_limits<double>::infinity();
 constexpr double NOT_A_NUMBER = std::numeric_limits<double>::quiet_NaN();
 using Points = std::vector<QPointF>;
 
-template <typename Draw>
-QImage Paint(Draw const& draw, QPen const& pen = QPen(Qt::red, 1))
+QImage Paint(std::function<void(QPainter&)> const& draw, QPen const& pen = QPen(Qt::red, 1))
 {
-    QImage image(SIZE, SIZE, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::black);
-    QPainter painter(&image);
-    painter.setPen(pen);
-    painter.setBrush(Qt::blue);
-    draw(painter);
-    return image;
+    return pixels::Paint({SIZE, SIZE}, Qt::black, [&](QPainter& painter) {
+        painter.setPen(pen);
+        painter.setBrush(Qt::blue);
+        draw(painter);
+    });
 }
 
 QImage Polyline(Points const& points, QPen const& pen = QPen(Qt::red, 1))
@@ -60,12 +53,8 @@ TEST(ClippedDrawingTest, PointsNearTheWindowAreDrawnAsTheyAre)
 
 TEST(ClippedDrawingTest, LinesThatRunFarOutsideKeepTheirPixels)
 {
-    struct Case
-    {
-        Points far;
-        Points near; ///< the same lines, cut off by hand
-    };
-    Case const cases[] = {
+    // And the same lines, cut off by hand.
+    std::vector<std::pair<Points, Points>> const cases{
         {{{50, 0}, {50 - 1e12, 1e12}}, {{50, 0}, {-50, 100}}},
         {{{-1e15 + 20, -1e15 + 20}, {1e15, 1e15}}, {{-80, -80}, {180, 180}}},
         {{{10, 10}, {1e30, 10}, {1e30, 30}, {10, 30}}, {{10, 10}, {300, 10}, {300, 30}, {10, 30}}},
@@ -74,8 +63,8 @@ TEST(ClippedDrawingTest, LinesThatRunFarOutsideKeepTheirPixels)
     };
     for (int width : {1, 5}) {
         QPen const pen(Qt::red, width);
-        for (Case const& c : cases) {
-            EXPECT_EQ(Polyline(c.far, pen), PlainPolyline(c.near, pen)) << c.far.back().x();
+        for (auto const& [far, near] : cases) {
+            EXPECT_EQ(Polyline(far, pen), PlainPolyline(near, pen)) << far.back().x();
         }
     }
 }
@@ -93,14 +82,12 @@ TEST(ClippedDrawingTest, PolygonsThatRunFarOutsideKeepTheirFill)
     EXPECT_EQ(Polygon({{20, 20}, {1e30, 20}, {1e30, 60}, {20, 60}}),
               Polygon({{20, 20}, {900, 20}, {900, 60}, {20, 60}}));
     // The window lies inside the polygon.
-    EXPECT_EQ(Polygon({{-1e20, -1e20}, {1e20, -1e20}, {1e20, 1e20}, {-1e20, 1e20}}).pixelColor(50, 50),
-              QColor(Qt::blue));
+    pixels::Expect(Polygon({{-1e20, -1e20}, {1e20, -1e20}, {1e20, 1e20}, {-1e20, 1e20}}), Qt::blue,
+                   {{50, 50}});
     // A triangle whose sides cross the window far from its corners: y < x + 10 and y > -x + 60.
     QImage const image = Polygon({{25, 35}, {25 + 1e10, 35 + 1e10}, {25 + 1e10, 35 - 1e10}});
-    EXPECT_EQ(image.pixelColor(60, 35), QColor(Qt::blue));
-    EXPECT_EQ(image.pixelColor(60, 60), QColor(Qt::blue));
-    EXPECT_EQ(image.pixelColor(60, 85), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(20, 35), QColor(Qt::black));
+    pixels::Expect(image, Qt::blue, {{60, 35}, {60, 60}});
+    pixels::Expect(image, Qt::black, {{60, 85}, {20, 35}});
 }
 
 TEST(ClippedDrawingTest, ManyFarStrokesEndInTime)
@@ -114,8 +101,6 @@ TEST(ClippedDrawingTest, ManyFarStrokesEndInTime)
             auto const start = std::chrono::steady_clock::now();
             Polyline(points, QPen(Qt::red, width, style));
             std::chrono::duration<double> const seconds = std::chrono::steady_clock::now() - start;
-            RecordProperty("seconds_style" + std::to_string(style) + "_width" + std::to_string(width),
-                           std::to_string(seconds.count()));
             EXPECT_LT(seconds.count(), 2.0) << style << " " << width;
         }
     }

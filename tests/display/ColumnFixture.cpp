@@ -3,44 +3,19 @@
 
 #include "display/ColumnFixture.h"
 
+#include "PlainView.h"
 #include "display/BaseScaleView.h"
-#include "model/ViewObjectNames.h"
 
 #include <QHBoxLayout>
-#include <QPainter>
 
 namespace {
-class PlainView final : public BaseViewWidget
-{
-public:
-    PlainView(QWidget* parent, QString const& name, QString const& object_name, ColumnContext const& context)
-        : BaseViewWidget(parent, name, context.parameters, *context.directional_survey)
-    {
-        setObjectName(object_name);
-    }
-    QString GetDescription() const override { return "plain"; }
-    StatusMessage GetStatusMessage(int /*x*/, int y) const override
-    {
-        StatusMessage message;
-        message.depth = ConvertYValueToDepth_metric(y);
-        return message;
-    }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        DrawCachedPixmap(painter, [](QPainter&) {});
-        RenderMouseCursor(painter);
-    }
-};
-
 class PlainPair final : public BaseCombinedViewWidget
 {
 public:
     PlainPair(QString const& name, QString const& object_name, ColumnContext const& context)
-        : view_(new PlainView(this, name, object_name, context))
+        : view_(new PlainView(this, name, context))
     {
+        view_->setObjectName(object_name);
         view_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
         auto* scale = new BaseScaleView(this);
         scale->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -56,35 +31,23 @@ private:
     PlainView* view_;
 };
 
-BASE_LOGPASS_STRUCT Record(QString const& hash, QStringList const& names, QColor const& color)
+BASE_LOGPASS_STRUCT Record(QString const& hash, QStringList const& names, QString const& unit)
 {
     BASE_LOGPASS_STRUCT record;
     record.properties.identifier = LogPassIdentifier(1, hash);
-    record.properties.pen = QPen(color);
+    record.properties.pen = QPen(Qt::red);
     record.file_path_and_name = hash + ".las";
     for (QString const& name : names) {
-        record.curve_info_header.push_back(HeaderRow(name, "unit", "", "Description of " + name));
+        record.curve_info_header.push_back(HeaderRow(name, unit, "", "Description of " + name));
     }
     return record;
 }
 } // namespace
 
-BaseCombinedViewWidget* PlainViewFactory::CreateZoneView(QString const& name,
-                                                         ColumnContext const& context) const
+BaseCombinedViewWidget* PlainViewFactory::Create(QString const& name, QString const& object_name,
+                                                 ColumnContext const& context)
 {
-    return new PlainPair(name, view_object_names::ZONE, context);
-}
-
-BaseCombinedViewWidget* PlainViewFactory::CreateDeviationView(QString const& name,
-                                                              ColumnContext const& context) const
-{
-    return new PlainPair(name, view_object_names::DEVIATION, context);
-}
-
-BaseCombinedViewWidget* PlainViewFactory::CreateWellSketchView(QString const& name,
-                                                               ColumnContext const& context) const
-{
-    return new PlainPair(name, view_object_names::WELL_SKETCH, context);
+    return new PlainPair(name, object_name, context);
 }
 
 void PlainViewFactory::ConnectComponentClicks(BaseCombinedViewWidget* view, QObject* /*receiver*/,
@@ -102,7 +65,7 @@ QWidget* PlainViewFactory::CreateComponentInfoOverlay(QWidget* /*parent*/, Inter
 
 std::shared_ptr<DepthLogPass> MakePass(QString const& hash, double top, double bottom, std::size_t count,
                                        QStringList const& names,
-                                       std::function<float(int, double)> const& value, QColor const& color)
+                                       std::function<float(int, double)> const& value, QString const& unit)
 {
     std::vector<double> depths(count);
     for (std::size_t i = 0; i < count; ++i) {
@@ -116,41 +79,40 @@ std::shared_ptr<DepthLogPass> MakePass(QString const& hash, double top, double b
         }
         data.push_back(samples);
     }
-    return std::make_shared<DepthLogPass>(Record(hash, names, color), data, true, 0.0F, 1.0F, depths);
+    return std::make_shared<DepthLogPass>(Record(hash, names, unit), data, true, 0.0F, 1.0F, depths);
 }
 
 std::shared_ptr<DepthLogPass> MakePass(QString const& hash, double top, double bottom,
-                                       QStringList const& names)
+                                       QStringList const& names, QString const& unit)
 {
-    return MakePass(hash, top, bottom, 10, names,
-                    [](int curve, double) { return static_cast<float>(curve); });
+    return MakePass(
+        hash, top, bottom, 10, names, [](int curve, double) { return static_cast<float>(curve); }, unit);
 }
 
-std::shared_ptr<TimeLog> MakeTimeLog(QString const& hash, float depth, QStringList const& names)
+std::shared_ptr<TimeLog> MakeTimeLog(QString const& hash, float depth, QStringList const& names,
+                                     std::vector<float> const& samples)
 {
     BaseLog::DataMatrix data;
     for (int curve = 0; curve < names.size(); ++curve) {
-        data.push_back(std::make_shared<std::vector<float>>(std::vector<float>{1, 2, 3}));
+        data.push_back(std::make_shared<std::vector<float>>(samples));
     }
-    return std::make_shared<TimeLog>(Record(hash, names, Qt::red), data, std::vector<double>{0, 1, 2}, depth);
+    std::vector<double> times(samples.size());
+    for (std::size_t i = 0; i < times.size(); ++i) {
+        times[i] = 0.5 * static_cast<double>(i);
+    }
+    return std::make_shared<TimeLog>(Record(hash, names, "unit"), data, times, depth);
 }
 
 void ColumnFixture::SetUp()
 {
-    Quorrel::DPI_X = 100;
-    Quorrel::DPI_Y = 100;
-    SettingsSingleton::Instance().SetMetricDepth(true);
-    column = std::make_unique<ColumnWindow>(SURVEY, well.Context(), &factory);
+    column = std::make_unique<ColumnWindow>(SURVEY, bench.context, &factory);
 }
 
-void ColumnFixture::TearDown()
+DepthLogPass& ColumnFixture::Import(QString const& hash, double top, double bottom, QStringList const& names)
 {
-    column.reset();
-    window.reset();
-    SettingsSingleton::Instance().SetMetricDepth(false);
-    SettingsSingleton::Instance().SetSeparatorSelection(US);
-    Quorrel::DPI_X = 0;
-    Quorrel::DPI_Y = 0;
+    passes.push_back(MakePass(hash, top, bottom, names));
+    column->AddImportedDepthLog(passes.back());
+    return *passes.back();
 }
 
 void ColumnFixture::ShowOnScreen()
@@ -173,22 +135,25 @@ void ColumnFixture::Settle()
     }
 }
 
-QList<QString> ColumnFixture::Names() const
+namespace {
+QList<QString> NamesOf(QList<BaseCombinedViewWidget*> const& pairs)
 {
     QList<QString> names;
-    for (BaseCombinedViewWidget const* pair : column->FindAllCombinedViewWidgets()) {
+    for (BaseCombinedViewWidget const* pair : pairs) {
         names.append(pair->GetBaseViewWidgetName());
     }
     return names;
 }
+} // namespace
+
+QList<QString> ColumnFixture::Names() const
+{
+    return NamesOf(column->FindAllCombinedViewWidgets());
+}
 
 QList<QString> ColumnFixture::VisibleNames() const
 {
-    QList<QString> names;
-    for (BaseCombinedViewWidget const* pair : column->FindAllVisibleCombinedViewWidgets()) {
-        names.append(pair->GetBaseViewWidgetName());
-    }
-    return names;
+    return NamesOf(column->FindAllVisibleCombinedViewWidgets());
 }
 
 std::map<QString, int> ColumnFixture::RenderCounts() const

@@ -3,28 +3,15 @@
 
 #pragma once
 
-#include "app/kit/Globals.h"
-#include "app/kit/SettingsSingleton.h"
+#include "ViewBench.h"
 #include "display/AutomaticDataView.h"
 #include "display/BaseCombinedViewWidget.h"
 #include "display/ColumnWindow.h"
-#include "display/DepthAxis.h"
 #include "display/MyAbstractScrollArea.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/UserDataView.h"
 #include "display/ViewFactory.h"
-#include "model/BaseLogPassRecord.h"
-#include "model/DepthLogPass.h"
-#include "model/TimeLog.h"
-#include "well/DepthMarker.h"
-#include "well/DirectionalSurveyData.h"
-#include "well/PipeStringData.h"
-#include "well/WellComponent.h"
-#include "well/Zone.h"
-#include "well/ZoneTrack.h"
-
-#include <QCoreApplication>
-#include <QWidget>
+#include "model/ViewObjectNames.h"
 
 #include <gtest/gtest.h>
 
@@ -33,42 +20,24 @@
 #include <memory>
 #include <vector>
 
-/// The well data a column looks at, and the context that names them.
-struct ColumnWell
-{
-    DirectionalSurveyData directional_survey;
-    PipeStringData pipe_strings;
-    QList<WellComponent> components;
-    QList<Zone> perforations;
-    QList<Zone> zones;
-    QList<ZoneTrack> zone_tracks;
-    QList<DepthMarker> markers_a;
-    QList<DepthMarker> markers_b;
-
-    [[nodiscard]] ColumnContext Context() const
-    {
-        ColumnContext context;
-        context.directional_survey = &directional_survey;
-        context.pipe_strings = &pipe_strings;
-        context.components = &components;
-        context.perforation_zones = &perforations;
-        context.interpretation_zones = &zones;
-        context.zone_tracks = &zone_tracks;
-        context.markers_a = &markers_a;
-        context.markers_b = &markers_b;
-        return context;
-    }
-};
-
 /// Makes plain views with the object names of the zone, deviation and sketch views, and remembers overlays.
 class PlainViewFactory final : public ViewFactory
 {
 public:
-    BaseCombinedViewWidget* CreateZoneView(QString const& name, ColumnContext const& context) const override;
+    BaseCombinedViewWidget* CreateZoneView(QString const& name, ColumnContext const& context) const override
+    {
+        return Create(name, view_object_names::ZONE, context);
+    }
     BaseCombinedViewWidget* CreateDeviationView(QString const& name,
-                                                ColumnContext const& context) const override;
+                                                ColumnContext const& context) const override
+    {
+        return Create(name, view_object_names::DEVIATION, context);
+    }
     BaseCombinedViewWidget* CreateWellSketchView(QString const& name,
-                                                 ColumnContext const& context) const override;
+                                                 ColumnContext const& context) const override
+    {
+        return Create(name, view_object_names::WELL_SKETCH, context);
+    }
     void ConnectComponentClicks(BaseCombinedViewWidget* view, QObject* receiver,
                                 ComponentClicked const& clicked) const override;
     QWidget* CreateComponentInfoOverlay(QWidget* parent, Interval const& md, Interval const& tvd,
@@ -82,28 +51,32 @@ public:
     };
     mutable std::map<QString, ComponentClicked> clicks; ///< by view name
     mutable std::vector<Overlay> overlays;
-};
 
-/// Channel names with one sample vector each.
-using Curves = std::vector<std::pair<HeaderRow, std::vector<float>>>;
+private:
+    static BaseCombinedViewWidget* Create(QString const& name, QString const& object_name,
+                                          ColumnContext const& context);
+};
 
 /// A pass of survey 1 with evenly spaced depths from top to bottom (metres).
 std::shared_ptr<DepthLogPass> MakePass(QString const& hash, double top, double bottom, std::size_t count,
                                        QStringList const& names,
                                        std::function<float(int, double)> const& value,
-                                       QColor const& color = Qt::red);
+                                       QString const& unit = "unit");
 /// The same with constant curves of ten samples.
 std::shared_ptr<DepthLogPass> MakePass(QString const& hash, double top, double bottom,
-                                       QStringList const& names);
-std::shared_ptr<TimeLog> MakeTimeLog(QString const& hash, float depth, QStringList const& names);
+                                       QStringList const& names, QString const& unit = "unit");
+/// Each curve has these samples, one every half second.
+std::shared_ptr<TimeLog> MakeTimeLog(QString const& hash, float depth, QStringList const& names,
+                                     std::vector<float> const& samples = {1, 2, 3});
 
-/// A column on screen (offscreen platform), 1000 px wide, in metres at 100 dots per inch.
+/// A column on screen (offscreen platform), 1000 px wide, on a bench of its own.
 class ColumnFixture : public testing::Test
 {
 protected:
     void SetUp() override;
-    void TearDown() override;
 
+    /// A pass of constant curves, imported and kept.
+    DepthLogPass& Import(QString const& hash, double top, double bottom, QStringList const& names);
     /// Puts the column into a window of its own and shows it.
     void ShowOnScreen();
     /// Lets layouts and paints run.
@@ -120,7 +93,7 @@ protected:
 
     static constexpr int SURVEY = 1;
 
-    ColumnWell well;
+    view_bench::Bench bench;
     PlainViewFactory factory;
     std::vector<std::shared_ptr<DepthLogPass>> passes;
     std::unique_ptr<QWidget> window;

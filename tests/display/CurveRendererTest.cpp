@@ -3,6 +3,7 @@
 
 #include "display/CurveRenderer.h"
 
+#include "ViewBench.h"
 #include "display/CurveSupport.h"
 #include "display/DepthCurve.h"
 #include "display/DepthGeometry.h"
@@ -45,48 +46,31 @@ std::map<int, Interval> RowEnvelopes(Points const& points)
 class CurveRendererTest : public ::testing::Test
 {
 protected:
-    DepthUnit unit_{true};
+    view_bench::Bench bench;
 };
+
+DepthCurve Processed(std::shared_ptr<StorageDataChannel> const& channel)
+{
+    DepthCurve curve(channel);
+    curve.ProcessCurve();
+    return curve;
+}
 } // namespace
 
 TEST_F(CurveRendererTest, ChoosesByTheNumberOfSamplesPerRow)
 {
     // A sample each metre, a first-level bin each 3000 / 1001 = 2.997 m.
     auto const channel = MakeRegularChannel(3001, 0, 1, [](std::size_t) { return 1.0F; });
-    DepthCurve curve(channel);
-    auto const method = [&](double metres_per_pixel) {
-        return CurveRenderer::ChooseMethod(curve, 100, {0, 100 * metres_per_pixel});
-    };
-    curve.ProcessCurve();
-    EXPECT_EQ(method(0.1), CurveRenderer::Method::RawCurve);
-    EXPECT_EQ(method(0.999), CurveRenderer::Method::RawCurve);
-    EXPECT_EQ(method(1.0), CurveRenderer::Method::RawCurveAsBins);
-    EXPECT_EQ(method(2.99), CurveRenderer::Method::RawCurveAsBins);
-    EXPECT_EQ(method(3.0), CurveRenderer::Method::BinCurve);
-    EXPECT_EQ(method(1000), CurveRenderer::Method::BinCurve);
+    DepthCurve curve = Processed(channel);
+    using enum CurveRenderer::Method;
+    for (auto const& [metres_per_pixel, method] :
+         {std::pair(0.1, RawCurve), std::pair(0.999, RawCurve), std::pair(1.0, RawCurveAsBins),
+          std::pair(2.99, RawCurveAsBins), std::pair(3.0, BinCurve), std::pair(1000.0, BinCurve)}) {
+        EXPECT_EQ(CurveRenderer::ChooseMethod(curve, 100, {0, 100 * metres_per_pixel}), method)
+            << metres_per_pixel;
+    }
     curve.ClearProcessedCurve();
-    EXPECT_EQ(method(1000), CurveRenderer::Method::RawCurveAsBins);
-}
-
-TEST_F(CurveRendererTest, RenderParameters)
-{
-    auto const parameters = [](Interval const& view) {
-        return CurveRenderer::CalculateRenderParameters(11, 100, 200, 101, view);
-    };
-    auto const inside = parameters({125, 155});
-    ASSERT_TRUE(inside);
-    EXPECT_EQ(inside->first, 2);
-    EXPECT_EQ(inside->last, 6); // index 5 at 150 m, and one beyond the view
-    // y(200) = round(100 * 75 / 30) = 250, y(100) = round(-83.3) = -83
-    EXPECT_FLOAT_EQ(inside->pixels_per_value, 333.0F / 11);
-
-    auto const wider = parameters({0, 1000});
-    ASSERT_TRUE(wider);
-    EXPECT_EQ(wider->first, 0);
-    EXPECT_EQ(wider->last, 10);
-    EXPECT_FALSE(parameters({0, 85}));
-    EXPECT_FALSE(parameters({210, 300}));
-    EXPECT_FALSE(CurveRenderer::CalculateRenderParameters(0, 0, 1, 100, {0, 1}));
+    EXPECT_EQ(CurveRenderer::ChooseMethod(curve, 100, {0, 1e5}), RawCurveAsBins);
 }
 
 TEST_F(CurveRendererTest, RawCurveHoldsEachSampleInViewAndOneBeyond)
@@ -98,19 +82,14 @@ TEST_F(CurveRendererTest, RawCurveHoldsEachSampleInViewAndOneBeyond)
     EXPECT_EQ(Render(CurveRenderer::RenderCurve, curve, {0, 100}, 200, 201, {11.5, 13.5}), expected);
     Points const mirrored{{100, -50}, {0, 50}, {-100, 150}, {100, 250}};
     EXPECT_EQ(Render(CurveRenderer::RenderRawCurve, curve, {100, 0}, 200, 201, {11.5, 13.5}), mirrored);
-}
 
-TEST_F(CurveRendererTest, RawCurveGoesThroughTheDepthsOfTheSettings)
-{
-    DepthUnit const feet(false);
-    auto const channel = MakeChannel({1000, 1001}, {0, 100});
-    DepthCurve const curve(channel);
     // 1000 m is 3280.8399 ft in single precision (3280.83984375), and that is 999.99999 m: 1000 after
     // rounding to float.
-    Points const points = Render(CurveRenderer::RenderRawCurve, curve, {0, 100}, 100, 1001, {999.5, 1001.5});
-    ASSERT_EQ(points.size(), 2U);
-    EXPECT_EQ(points[0].y(), 250);
-    EXPECT_EQ(points[1].y(), 750);
+    SettingsSingleton::Instance().SetMetricDepth(false);
+    auto const deep = MakeChannel({1000, 1001}, {0, 100});
+    Points const points =
+        Render(CurveRenderer::RenderRawCurve, DepthCurve(deep), {0, 100}, 100, 1001, {999.5, 1001.5});
+    EXPECT_EQ(points, (Points{{0, 250}, {100, 750}}));
 }
 
 TEST_F(CurveRendererTest, FewSamplesPerRowShowTheEnvelopeOfEachRow)
@@ -121,25 +100,21 @@ TEST_F(CurveRendererTest, FewSamplesPerRowShowTheEnvelopeOfEachRow)
         constexpr int height = 200;
         auto const channel =
             MakeRegularChannel(2000, 0, 1, [&](std::size_t) { return static_cast<float>(value(random)); });
-        DepthCurve curve(channel);
-        curve.ProcessCurve();
+        DepthCurve const curve = Processed(channel);
         Interval const view(300, 300 + height * rows_of_samples);
         ASSERT_EQ(CurveRenderer::ChooseMethod(curve, height, view), CurveRenderer::Method::RawCurveAsBins);
         Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 1000}, 1000, height, view);
 
-        std::map<int, Interval> expected;
+        Points samples;
         for (std::size_t i = 0; i < channel->size(); ++i) {
-            double const depth = static_cast<double>(i);
-            if (depth < view.lower || depth > view.upper) {
-                continue;
+            if (auto const depth = static_cast<double>(i); view.Contains(depth)) {
+                samples.emplace_back(channel->at(i),
+                                     std::round((height - 1) * (depth - view.lower) / view.Delta()));
             }
-            int const row = static_cast<int>(std::round((height - 1) * (depth - view.lower) / view.Delta()));
-            expected[row].lower = std::min(expected[row].lower, static_cast<double>(channel->at(i)));
-            expected[row].upper = std::max(expected[row].upper, static_cast<double>(channel->at(i)));
         }
         auto const rows = RowEnvelopes(points);
         // The last row and the one behind it take the sample beyond the view.
-        for (auto const& [row, envelope] : expected) {
+        for (auto const& [row, envelope] : RowEnvelopes(samples)) {
             ASSERT_TRUE(rows.contains(row)) << row;
             if (row < height - 1) {
                 EXPECT_EQ(rows.at(row), envelope) << row;
@@ -155,34 +130,33 @@ TEST_F(CurveRendererTest, FewSamplesPerRowDropPointsOfTheSameColumn)
     // Two samples per row: 10.2 and 10.4 share a column, 10.4 and 10.6 do not.
     auto const channel =
         MakeChannel({0, 0.4, 1, 1.4, 2, 2.4, 3, 3.4}, {10.2F, 10.4F, 10.4F, 10.6F, 7, 7, 7, 9});
-    DepthCurve const curve(channel);
-    Points const points = Render(CurveRenderer::RenderRawCurveAsBins, curve, {0, 100}, 100, 4, {0, 3});
-    ASSERT_EQ(points.size(), 6U);
-    Points const rows_and_columns{{10, 0}, {10, 1}, {11, 1}, {7, 2}, {7, 3}, {9, 3}};
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        EXPECT_EQ(QPointF(std::round(points[i].x()), points[i].y()), rows_and_columns[i]) << i;
+    Points points =
+        Render(CurveRenderer::RenderRawCurveAsBins, DepthCurve(channel), {0, 100}, 100, 4, {0, 3});
+    for (QPointF& point : points) {
+        point.setX(std::round(point.x()));
     }
+    EXPECT_EQ(points, (Points{{10, 0}, {10, 1}, {11, 1}, {7, 2}, {7, 3}, {9, 3}}));
 }
 
 TEST_F(CurveRendererTest, BinsFallOnTheRowsBeneathTheirStart)
 {
     // Four bins: (0,2) (3,5) (6,8) (9,11).
     auto const channel = MakeRegularChannel(12, 0, 1, [](std::size_t i) { return static_cast<float>(i); });
-    DepthCurve curve(channel);
-    curve.ProcessCurve();
+    DepthCurve const curve = Processed(channel);
     // Three rows, two of them from top to bottom: half a row per bin.
     Points const three_rows{{0, 0}, {2, 0}, {3, 1}, {8, 1}, {9, 2}, {11, 2}};
     EXPECT_EQ(Render(CurveRenderer::RenderBinCurve, curve, {0, 12}, 12, 3, {0, 11}), three_rows);
 
     // Eleven rows, 2.5 rows per bin: bins start at 0, 2.5, 5, 7.5; the rows between them hold no number.
-    Points const sparse = Render(CurveRenderer::RenderBinCurve, curve, {0, 12}, 12, 11, {0, 11});
-    ASSERT_GE(sparse.size(), 8U);
-    EXPECT_EQ(sparse[0], QPointF(0, 0));
-    EXPECT_EQ(sparse[1], QPointF(2, 0));
-    EXPECT_EQ(sparse[2].x(), static_cast<double>(INF));
-    EXPECT_EQ(sparse[3].x(), -static_cast<double>(INF));
-    EXPECT_EQ(sparse[6], QPointF(3, 3));
-    EXPECT_EQ(sparse[7], QPointF(5, 3));
+    std::vector<double> columns;
+    for (QPointF const& point : Render(CurveRenderer::RenderBinCurve, curve, {0, 12}, 12, 11, {0, 11})) {
+        EXPECT_EQ(point.y(), columns.size() / 2);
+        columns.push_back(point.x());
+    }
+    ASSERT_GE(columns.size(), 8U);
+    columns.resize(8);
+    double const inf = static_cast<double>(INF);
+    EXPECT_EQ(columns, (std::vector<double>{0, 2, inf, -inf, inf, -inf, 3, 5}));
 }
 
 TEST_F(CurveRendererTest, ManySamplesPerRowKeepTheEnvelope)
@@ -191,20 +165,12 @@ TEST_F(CurveRendererTest, ManySamplesPerRowKeepTheEnvelope)
     std::uniform_int_distribution<int> value(400, 600);
     constexpr std::size_t size = 200'000;
     constexpr int height = 500;
-    auto channel =
-        MakeRegularChannel(size, 1000, 0.01, [&](std::size_t) { return static_cast<float>(value(random)); });
-    std::vector<float> samples(channel->begin(), channel->end());
     std::vector<std::size_t> const spikes{777, 33'333, 100'000, 150'001, size - 1};
-    std::vector<double> depths(size);
-    for (std::size_t i = 0; i < size; ++i) {
-        depths[i] = 1000 + 0.01 * static_cast<double>(i);
-    }
-    for (std::size_t const spike : spikes) {
-        samples[spike] = 950;
-    }
-    channel = MakeChannel(depths, samples);
-    DepthCurve curve(channel);
-    curve.ProcessCurve();
+    auto const channel = MakeRegularChannel(size, 1000, 0.01, [&](std::size_t i) {
+        bool const is_spike = std::find(spikes.begin(), spikes.end(), i) != spikes.end();
+        return is_spike ? 950.0F : static_cast<float>(value(random));
+    });
+    DepthCurve const curve = Processed(channel);
 
     for (Interval const& view :
          {Interval(1000, 3000), Interval(900, 3100), Interval(1300, 1700), Interval(990, 1100)}) {
@@ -212,31 +178,28 @@ TEST_F(CurveRendererTest, ManySamplesPerRowKeepTheEnvelope)
         Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 1000}, 1000, height, view);
         EXPECT_LE(points.size(), 2U * height);
         auto const rows = RowEnvelopes(points);
-        auto const row_of = [&](double depth) { return (height - 1) * (depth - view.lower) / view.Delta(); };
-        double const first_row = std::max(0.0, row_of(1000));
-        double const last_row = std::min(height - 1.0, row_of(depths.back()));
-        EXPECT_NEAR(rows.begin()->first, first_row, 1);
-        EXPECT_NEAR(rows.rbegin()->first, last_row, 1.5);
+        auto const row_of = [&](std::size_t sample) {
+            return (height - 1) * (1000 + 0.01 * static_cast<double>(sample) - view.lower) / view.Delta();
+        };
+        EXPECT_NEAR(rows.begin()->first, std::max(0.0, row_of(0)), 1);
+        EXPECT_NEAR(rows.rbegin()->first, std::min(height - 1.0, row_of(size - 1)), 1.5);
 
         // A row shows nothing that is not within two rows of it, and all that surely lies on it.
         std::size_t row_start = 0;
         for (auto const& [row, envelope] : rows) {
             Interval near_extent;
-            while (row_start < size && row_of(depths[row_start]) < row - 2) {
+            while (row_start < size && row_of(row_start) < row - 2) {
                 ++row_start;
             }
-            for (std::size_t i = row_start; i < size && row_of(depths[i]) <= row + 2; ++i) {
-                near_extent.lower = std::min(near_extent.lower, static_cast<double>(samples[i]));
-                near_extent.upper = std::max(near_extent.upper, static_cast<double>(samples[i]));
+            for (std::size_t i = row_start; i < size && row_of(i) <= row + 2; ++i) {
+                near_extent.lower = std::min(near_extent.lower, static_cast<double>(channel->at(i)));
+                near_extent.upper = std::max(near_extent.upper, static_cast<double>(channel->at(i)));
             }
             EXPECT_TRUE(envelope.IsInside(near_extent)) << row;
         }
         for (std::size_t const spike : spikes) {
-            double const row = row_of(depths[spike]);
-            if (row < 2 || row > height - 3) {
-                continue;
-            }
-            bool is_shown = false;
+            double const row = row_of(spike);
+            bool is_shown = row < 2 || row > height - 3;
             for (int offset = -2; offset <= 2; ++offset) {
                 auto const found = rows.find(static_cast<int>(row) + offset);
                 is_shown = is_shown || (found != rows.end() && found->second.upper == 950);
@@ -246,59 +209,40 @@ TEST_F(CurveRendererTest, ManySamplesPerRowKeepTheEnvelope)
     }
 }
 
-TEST_F(CurveRendererTest, ACurveThatBeginsBelowTheTopStartsOnItsOwnRow)
+TEST_F(CurveRendererTest, AConstantCurveThatBeginsBelowTheTopHasOnePointPerRow)
 {
-    auto const channel =
-        MakeRegularChannel(30'000, 500, 0.01, [](std::size_t i) { return static_cast<float>(i % 7); });
-    DepthCurve curve(channel);
-    curve.ProcessCurve();
     // 500 m of 0 to 1000 m on 201 rows: row 100; its 300 m end on row 160.
-    Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 10}, 100, 201, {0, 1000});
-    ASSERT_FALSE(points.empty());
-    EXPECT_EQ(points.front().y(), 100);
-    EXPECT_NEAR(points.back().y(), 160, 1);
-}
-
-TEST_F(CurveRendererTest, AConstantCurveHasOnePointPerRow)
-{
-    auto const channel = MakeRegularChannel(60'000, 0, 0.01, [](std::size_t) { return 5.0F; });
-    DepthCurve curve(channel);
-    curve.ProcessCurve();
-    Points const points = Render(CurveRenderer::RenderCurve, curve, {0, 10}, 100, 300, {0, 600});
-    ASSERT_GE(points.size(), 299U);
-    ASSERT_LE(points.size(), 300U);
+    auto const channel = MakeRegularChannel(30'000, 500, 0.01, [](std::size_t) { return 5.0F; });
+    Points const points =
+        Render(CurveRenderer::RenderCurve, Processed(channel), {0, 10}, 100, 201, {0, 1000});
+    ASSERT_NEAR(points.size(), 60.5, 1);
     for (std::size_t i = 0; i < points.size(); ++i) {
-        ASSERT_EQ(points[i], QPointF(50, static_cast<double>(i)));
+        ASSERT_EQ(points[i], QPointF(50, 100 + static_cast<double>(i)));
     }
 }
 
 TEST_F(CurveRendererTest, NothingToDraw)
 {
     auto channel = MakeRegularChannel(10'000, 0, 0.1, [](std::size_t i) { return static_cast<float>(i); });
-    DepthCurve curve(channel);
-    curve.ProcessCurve();
-    auto const count = [&](Interval const& scale, int width, int height, Interval const& view) {
+    DepthCurve const curve = Processed(channel);
+    auto const count = [&](Interval const& view, Interval const& scale = {0, 1}, int width = 100,
+                           int height = 100) {
         return Render(CurveRenderer::RenderCurve, curve, scale, width, height, view).size();
     };
     double const nan = static_cast<double>(NOT_A_NUMBER);
     double const inf = static_cast<double>(INF);
-    EXPECT_GT(count({0, 1}, 100, 100, {0, 1000}), 0U);
-    EXPECT_EQ(count({3, 3}, 100, 100, {0, 1000}), 0U);
-    EXPECT_EQ(count({nan, 3}, 100, 100, {0, 1000}), 0U);
-    EXPECT_EQ(count({-inf, inf}, 100, 100, {0, 1000}), 0U);
-    EXPECT_EQ(count({0, 1}, 0, 100, {0, 1000}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 0, {0, 1000}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, -5, {0, 1000}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, {5, 5}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, {5, 4}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, Interval()), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, {nan, 5}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, {-inf, inf}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, {2000, 3000}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, {-3000, -2000}), 0U);
+    Interval const all(0, 1000);
+    EXPECT_GT(count(all), 0U);
+    for (Interval const& scale : {Interval(3, 3), Interval(nan, 3), Interval(-inf, inf)}) {
+        EXPECT_EQ(count(all, scale), 0U) << scale.lower;
+    }
+    EXPECT_EQ(count(all, {0, 1}, 0) + count(all, {0, 1}, 100, 0) + count(all, {0, 1}, 100, -5), 0U);
+    for (Interval const& view : {Interval(5, 5), Interval(5, 4), Interval(), Interval(nan, 5),
+                                 Interval(-inf, inf), Interval(2000, 3000), Interval(-3000, -2000)}) {
+        EXPECT_EQ(count(view), 0U) << view.lower;
+    }
     channel.reset();
-    EXPECT_EQ(count({0, 1}, 100, 100, {0, 1000}), 0U);
-    EXPECT_EQ(count({0, 1}, 100, 100, {0, 1}), 0U);
+    EXPECT_EQ(count(all) + count({0, 1}), 0U);
 }
 
 TEST_F(CurveRendererTest, ShortOddAndUglyCurvesStayInBounds)
@@ -331,14 +275,12 @@ TEST_F(CurveRendererTest, ShortOddAndUglyCurvesStayInBounds)
 
 TEST_F(CurveRendererTest, MoreDepthsThanSamplesAreNotRead)
 {
-    StorageDataChannel whole(QStringLiteral("filling"));
     auto const source = MakeRegularChannel(100, 0, 1, [](std::size_t) { return 1.0F; });
     auto const channel = std::make_shared<StorageDataChannel>(source.get(), 0);
     for (int i = 0; i < 50; ++i) {
         channel->push_back(2.0F); // samples without a depth
     }
-    DepthCurve curve(channel);
-    curve.ProcessCurve();
+    DepthCurve const curve = Processed(channel);
     EXPECT_LE(Render(CurveRenderer::RenderRawCurve, curve, {0, 10}, 100, 5000, {0, 200}).size(), 100U);
     EXPECT_LE(Render(CurveRenderer::RenderRawCurveAsBins, curve, {0, 10}, 100, 50, {0, 200}).size(), 100U);
 }

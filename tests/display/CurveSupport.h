@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "app/kit/SettingsSingleton.h"
 #include "model/StorageDataChannel.h"
 
 #include <cmath>
@@ -17,22 +16,6 @@
 namespace curve_support {
 inline constexpr float INF = std::numeric_limits<float>::infinity();
 inline constexpr float NOT_A_NUMBER = std::numeric_limits<float>::quiet_NaN();
-
-/// Sets the depth unit for the life of the object.
-class DepthUnit
-{
-public:
-    explicit DepthUnit(bool is_metric) : former_(SettingsSingleton::Instance().IsMetricDepth())
-    {
-        SettingsSingleton::Instance().SetMetricDepth(is_metric);
-    }
-    ~DepthUnit() { SettingsSingleton::Instance().SetMetricDepth(former_); }
-    DepthUnit(DepthUnit const&) = delete;
-    DepthUnit& operator=(DepthUnit const&) = delete;
-
-private:
-    bool former_;
-};
 
 inline std::shared_ptr<StorageDataChannel> MakeChannel(std::vector<double> depths, std::vector<float> samples,
                                                        DataChannelIdentifier const& identifier = {})

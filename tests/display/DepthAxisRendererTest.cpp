@@ -3,7 +3,7 @@
 
 #include "display/DepthAxisRenderer.h"
 
-#include "display/CurveSupport.h"
+#include "ViewBench.h"
 #include "support/RecordingPaintDevice.h"
 
 #include <QImage>
@@ -11,10 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
-
-using curve_support::DepthUnit;
 
 namespace {
 /// Rows of the lines that go from x1 to x2.
@@ -29,6 +26,14 @@ std::multiset<int> RowsOfLines(RecordingPaintDevice const& device, int x1, int x
     return rows;
 }
 
+void Draw(QPaintDevice& device, Interval const& interval, double dpi = 96, bool bold = true)
+{
+    QPainter painter(&device);
+    QPen const pen = painter.pen();
+    DepthAxisRenderer().RenderToPainter(painter, interval, dpi, 1.0, Qt::lightGray, bold);
+    EXPECT_EQ(painter.pen(), pen);
+}
+
 QStringList Labels(RecordingPaintDevice const& device)
 {
     QStringList labels;
@@ -37,66 +42,60 @@ QStringList Labels(RecordingPaintDevice const& device)
     }
     return labels;
 }
+
+class DepthAxisRendererTest : public ::testing::Test
+{
+protected:
+    view_bench::Bench bench;
+};
 } // namespace
 
-TEST(DepthAxisRendererTest, StepNearTheDepthOfAnInch)
+TEST_F(DepthAxisRendererTest, StepNearTheDepthOfAnInch)
 {
-    DepthUnit const metres(true);
-    struct Case
-    {
-        double metres_per_inch;
-        double step;
-    };
     // 128 rows at 128 dots per inch: the interval is what one inch spans.
-    Case const cases[] = {{1, 1},      {1.5, 1},      {1.51, 2},    {3.5, 2},      {3.51, 5},
-                          {7.5, 5},    {7.51, 10},    {9.9, 10},    {10, 10},      {16, 20},
-                          {74, 50},    {76, 100},     {400, 500},   {0.2, 0.2},    {0.5, 0.5},
-                          {0.09, 0.1}, {0.012, 0.01}, {0.04, 0.05}, {12345, 10000}};
-    for (Case const& c : cases) {
-        auto const scale = DepthAxisRenderer::CalculateAxisScale(128, {0, c.metres_per_inch}, 128, 1);
-        EXPECT_NEAR(scale.step, c.step, 1e-9 * c.step) << c.metres_per_inch;
+    double const cases[][2] = {{1, 1},    {1.5, 1},   {1.51, 2},   {3.5, 2},      {3.51, 5},
+                               {7.5, 5},  {7.51, 10}, {9.9, 10},   {16, 20},      {74, 50},
+                               {76, 100}, {0.2, 0.2}, {0.09, 0.1}, {0.012, 0.01}, {12345, 10000}};
+    for (auto const& [metres_per_inch, step] : cases) {
+        auto const scale = DepthAxisRenderer::CalculateAxisScale(128, {0, metres_per_inch}, 128, 1);
+        EXPECT_NEAR(scale.step, step, 1e-9 * step) << metres_per_inch;
     }
     // Fractions of a dot do not count, and k inches count as one.
     EXPECT_DOUBLE_EQ(DepthAxisRenderer::CalculateAxisScale(100.9, {0, 1.5}, 100, 1).step, 1);
     EXPECT_DOUBLE_EQ(DepthAxisRenderer::CalculateAxisScale(100, {0, 1.5}, 100, 2).step, 2);
 }
 
-TEST(DepthAxisRendererTest, StartsAtTheFirstRoundDepth)
+TEST_F(DepthAxisRendererTest, StartsAtTheFirstRoundDepth)
 {
-    {
-        DepthUnit const metres(true);
-        EXPECT_DOUBLE_EQ(DepthAxisRenderer::CalculateAxisScale(100, {101.2, 103.2}, 100, 1).start, 102);
-        EXPECT_DOUBLE_EQ(DepthAxisRenderer::CalculateAxisScale(100, {102, 104}, 100, 1).start, 102);
-        EXPECT_DOUBLE_EQ(DepthAxisRenderer::CalculateAxisScale(100, {-3.5, -1.5}, 100, 1).start, -2);
+    for (auto const& [top, start] :
+         {std::pair(101.2, 102.0), std::pair(102.0, 102.0), std::pair(-3.5, -2.0)}) {
+        EXPECT_DOUBLE_EQ(DepthAxisRenderer::CalculateAxisScale(100, {top, top + 2}, 100, 1).start, start);
     }
-    DepthUnit const feet(false);
+    SettingsSingleton::Instance().SetMetricDepth(false);
     // 328.084 ft over four inches are 82 ft per inch; the top at 3280.84 ft.
     auto const scale = DepthAxisRenderer::CalculateAxisScale(100, {1000, 1100}, 400, 1);
     EXPECT_DOUBLE_EQ(scale.step, 100);
     EXPECT_DOUBLE_EQ(scale.start, 3300);
 }
 
-TEST(DepthAxisRendererTest, NoRulerWithoutRoomOrResolution)
+TEST_F(DepthAxisRendererTest, NoRulerWithoutRoomOrResolution)
 {
-    double const nan = std::nan("");
-    EXPECT_EQ(DepthAxisRenderer::CalculateAxisScale(0, {0, 10}, 100, 1).step, 0);
-    EXPECT_EQ(DepthAxisRenderer::CalculateAxisScale(96, {0, 10}, 0, 1).step, 0);
-    EXPECT_EQ(DepthAxisRenderer::CalculateAxisScale(96, {10, 10}, 100, 1).step, 0);
-    EXPECT_EQ(DepthAxisRenderer::CalculateAxisScale(96, {10, 5}, 100, 1).step, 0);
-    EXPECT_EQ(DepthAxisRenderer::CalculateAxisScale(96, {0, nan}, 100, 1).step, 0);
-    EXPECT_EQ(DepthAxisRenderer::CalculateAxisScale(96, Interval(), 100, 1).step, 0);
+    auto const step = [](int height, Interval const& interval, double dpi) {
+        return DepthAxisRenderer::CalculateAxisScale(height, interval, dpi, 1).step;
+    };
+    EXPECT_EQ(step(0, {0, 10}, 100), 0);
+    EXPECT_EQ(step(96, {0, 10}, 0), 0);
+    for (Interval const& interval :
+         {Interval(10, 10), Interval(10, 5), Interval(0, std::nan("")), Interval()}) {
+        EXPECT_EQ(step(96, interval, 100), 0) << interval.upper;
+    }
 }
 
-TEST(DepthAxisRendererTest, TicksAndLabels)
+TEST_F(DepthAxisRendererTest, TicksAndLabels)
 {
-    DepthUnit const metres(true);
     constexpr int width = 120;
     RecordingPaintDevice device(width, 401);
-    {
-        QPainter painter(&device);
-        // 10 rows per metre; 96 rows are 9.6 m, so the step is 10 m and a minor tick is 1 m.
-        DepthAxisRenderer().RenderToPainter(painter, {995, 1035}, 96, 1.0, Qt::lightGray, true);
-    }
+    Draw(device, {995, 1035}); // 10 rows per metre; 96 rows are 9.6 m, so the step is 10 m, a minor tick 1 m
     EXPECT_EQ(RowsOfLines(device, 0, width), (std::multiset<int>{50, 150, 250, 350}));
     EXPECT_EQ(RowsOfLines(device, 0, 20), (std::multiset<int>{0, 100, 200, 300, 400}));
     EXPECT_EQ(RowsOfLines(device, width - 20, width), RowsOfLines(device, 0, 20));
@@ -105,8 +104,7 @@ TEST(DepthAxisRendererTest, TicksAndLabels)
     for (int row = 0; row <= 400; row += 10) {
         EXPECT_EQ(minor.count(row), 1U) << row;
     }
-    EXPECT_EQ(Labels(device), (QStringList{QStringLiteral("1,000"), QStringLiteral("1,010"),
-                                           QStringLiteral("1,020"), QStringLiteral("1,030")}));
+    EXPECT_EQ(Labels(device), (QStringList{"1,000", "1,010", "1,020", "1,030"}));
     // Labels stand on their tick, in the middle.
     for (std::size_t i = 0; i < device.GetTexts().size(); ++i) {
         QPointF const position = device.GetTexts()[i].position;
@@ -118,30 +116,22 @@ TEST(DepthAxisRendererTest, TicksAndLabels)
     }
 }
 
-TEST(DepthAxisRendererTest, FractionsOfAMetreShowOneDecimal)
+TEST_F(DepthAxisRendererTest, FractionsOfAMetreShowOneDecimal)
 {
-    DepthUnit const metres(true);
     auto const labels = [](Interval const& interval) {
         RecordingPaintDevice device(80, 201);
-        QPainter painter(&device);
-        DepthAxisRenderer().RenderToPainter(painter, interval, 100, 1.0, Qt::lightGray, false);
-        painter.end();
+        Draw(device, interval, 100, false);
         return Labels(device);
     };
-    EXPECT_EQ(labels({10, 11}),
-              (QStringList{QStringLiteral("10.0"), QStringLiteral("10.5"), QStringLiteral("11.0")}));
-    EXPECT_EQ(labels({10, 12}),
-              (QStringList{QStringLiteral("10"), QStringLiteral("11"), QStringLiteral("12")}));
+    EXPECT_EQ(labels({10, 11}), (QStringList{"10.0", "10.5", "11.0"}));
+    EXPECT_EQ(labels({10, 12}), (QStringList{"10", "11", "12"}));
 }
 
-TEST(DepthAxisRendererTest, LongLabelsFitIntoANarrowRuler)
+TEST_F(DepthAxisRendererTest, LongLabelsFitIntoANarrowRuler)
 {
-    DepthUnit const metres(true);
     for (Interval const& interval : {Interval(14000, 15000), Interval(9990, 10010), Interval(-2000, -1000)}) {
         RecordingPaintDevice device(38, 600);
-        QPainter painter(&device);
-        DepthAxisRenderer().RenderToPainter(painter, interval, 96, 1.0, Qt::lightGray, true);
-        painter.end();
+        Draw(device, interval);
         ASSERT_FALSE(device.GetTexts().empty());
         for (auto const& text : device.GetTexts()) {
             // Centred, so that it ends as far from the right edge as it begins from the left one.
@@ -150,9 +140,8 @@ TEST(DepthAxisRendererTest, LongLabelsFitIntoANarrowRuler)
     }
 }
 
-TEST(DepthAxisRendererTest, OddIntervalsAndSizesEnd)
+TEST_F(DepthAxisRendererTest, OddIntervalsAndSizesEnd)
 {
-    DepthUnit const metres(true);
     double const inf = std::numeric_limits<double>::infinity();
     for (QSize const size : {QSize(1, 1), QSize(38, 3), QSize(3, 500), QSize(60, 2000)}) {
         for (Interval const& interval :
@@ -162,11 +151,7 @@ TEST(DepthAxisRendererTest, OddIntervalsAndSizesEnd)
             for (double const dpi : {0.0, 1.0, 96.0, 1200.0}) {
                 QImage image(size, QImage::Format_ARGB32_Premultiplied);
                 image.fill(Qt::white);
-                QPainter painter(&image);
-                QPen const pen = painter.pen();
-                DepthAxisRenderer().RenderToPainter(painter, interval, dpi, 1.0, Qt::lightGray, true);
-                EXPECT_EQ(painter.pen(), pen);
-                painter.end();
+                Draw(image, interval, dpi);
                 if (!interval.IsValid()) {
                     EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::white));
                 }

@@ -5,21 +5,20 @@
 
 #include "ViewBench.h"
 #include "display/BaseScaleView.h"
+#include "display/ScaleItem.h"
 #include "display/TreeItemDropData.h"
 #include "display/UserCombinedViewWidget.h"
+#include "formats/project/ViewRecords.h"
+#include "support/Pixels.h"
 
 #include <QApplication>
 #include <QDataStream>
 #include <QDragEnterEvent>
 #include <QDragMoveEvent>
 #include <QDropEvent>
-#include <QImage>
 #include <QMimeData>
-#include <QPainter>
 #include <QSignalSpy>
 #include <QTreeWidget>
-
-#include <gtest/gtest.h>
 
 namespace {
 using namespace view_bench;
@@ -40,15 +39,6 @@ std::unique_ptr<QMimeData> DragOf(int type, DataChannelIdentifier const& identif
     item->setData(0, TREE_ITEM_HASH_ROLE, identifier.GetHash());
     item->setData(0, TREE_ITEM_INDEX_ROLE, identifier.GetIndex());
     return std::unique_ptr<QMimeData>(tree.mimeData({item}));
-}
-
-TEST(TreeItemDropData, ReadsWhatATreeWrites)
-{
-    DataChannelIdentifier const identifier(4, QStringLiteral("d41d8c"), 17);
-    auto const data = Quorrel::ReadTreeItemDropData(DragOf(1006, identifier).get());
-    ASSERT_TRUE(data.has_value());
-    EXPECT_EQ(data->type, TreeItemType::LogPassDataChannel);
-    EXPECT_EQ(data->identifier, identifier);
 }
 
 TEST(TreeItemDropData, RefusesDamagedPayloads)
@@ -72,10 +62,6 @@ protected:
     UserDataViewTest() : pair(QStringLiteral("Mine"), bench.context, &column) { View().resize(200, 101); }
 
     UserDataView& View() { return *pair.GetUserDataView(); }
-    void Add(std::shared_ptr<Channel> const& channel)
-    {
-        View().AssignDepthDataChannel(std::weak_ptr<BaseDepthDataChannel const>(channel));
-    }
 
     Bench bench;
     Column column;
@@ -86,41 +72,38 @@ TEST_F(UserDataViewTest, TakesDepthAndStorageChannelsByDrop)
 {
     QSignalSpy dropped(&pair, &BaseCombinedViewWidget::DataChannelDroppedOnUserDataView_Signal);
     DataChannelIdentifier const identifier(2, QStringLiteral("hash"), 9);
-    int accepted = 0;
+    auto const accepts = [this](QMimeData const& mime) {
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QDragMoveEvent move(QPoint(9, 9), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        QDropEvent drop(QPointF(9, 9), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        for (QDropEvent* const event :
+             {static_cast<QDropEvent*>(&enter), static_cast<QDropEvent*>(&move), &drop}) {
+            event->ignore();
+            QApplication::sendEvent(&View(), event);
+        }
+        EXPECT_EQ(enter.isAccepted(), move.isAccepted());
+        return enter.isAccepted();
+    };
+    QList<int> accepted;
     for (int type = 1000; type <= 1020; ++type) {
-        std::unique_ptr<QMimeData> const mime = DragOf(type, identifier);
-        bool const expected = type == 1006 || type == 1015;
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, mime.get(), Qt::LeftButton, Qt::NoModifier);
-        enter.ignore();
-        QApplication::sendEvent(&View(), &enter);
-        EXPECT_EQ(enter.isAccepted(), expected) << type;
-        QDragMoveEvent move(QPoint(9, 9), Qt::CopyAction, mime.get(), Qt::LeftButton, Qt::NoModifier);
-        move.ignore();
-        QApplication::sendEvent(&View(), &move);
-        EXPECT_EQ(move.isAccepted(), expected) << type;
-        QDropEvent drop(QPointF(9, 9), Qt::CopyAction, mime.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&View(), &drop);
-        accepted += expected ? 1 : 0;
-        ASSERT_EQ(dropped.count(), accepted) << type;
+        if (accepts(*DragOf(type, identifier))) {
+            accepted.append(type);
+        }
+        ASSERT_EQ(dropped.count(), accepted.size()) << type;
     }
-    EXPECT_EQ(dropped[0][0].toString(), QStringLiteral("Mine"));
-    EXPECT_EQ(dropped[0][1].value<DataChannelIdentifier>(), identifier);
-
+    EXPECT_EQ(accepted, (QList<int>{1006, 1015}));
+    EXPECT_EQ(dropped[0], QVariantList({"Mine", QVariant::fromValue(identifier)}));
     QMimeData text;
     text.setText(QStringLiteral("GR"));
-    QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
-    enter.ignore();
-    QApplication::sendEvent(&View(), &enter);
-    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_FALSE(accepts(text));
 }
 
 TEST_F(UserDataViewTest, FillsLieUnderTheCurves)
 {
     auto const left = MakeChannel("p", 0, "L", "u", [](double) { return 2.0; });
     auto const right = MakeChannel("p", 1, "R", "u", [](double) { return 8.0; });
-    Add(left);
-    Add(right);
     for (auto const& channel : {left, right}) {
+        View().AssignDepthDataChannel(channel);
         View().SetScaleInterval(channel->GetDataChannelIdentifier(), Interval(0, 10));
         View().SetPen(channel->GetDataChannelIdentifier(), QPen(Qt::green, 3));
     }
@@ -130,39 +113,56 @@ TEST_F(UserDataViewTest, FillsLieUnderTheCurves)
     fill.method = FILL_AREA_METHODS::A_RIGHT_OF_B;
     fill.color = QColor(200, 100, 50);
     View().SetFillAreaDefinitions({fill});
-    auto const render = [this] {
-        QImage image(200, 101, QImage::Format_RGB32);
-        image.fill(Qt::black);
-        QPainter painter(&image);
-        View().RenderToPainter(painter, Interval(1000, 1100), 96, true);
-        return image;
-    };
-    QImage image = render();
-    EXPECT_EQ(image.pixelColor(100, 50), fill.color);
-    EXPECT_EQ(image.pixelColor(20, 50), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(40, 50), QColor(Qt::green)) << "the curve stands on top";
-    EXPECT_EQ(image.pixelColor(160, 50), QColor(Qt::green));
+    QImage const image = Render(View());
+    pixels::Expect(image, fill.color, {{100, 50}});
+    pixels::Expect(image, Qt::green, {{40, 50}, {160, 50}}); // the curves stand on top
+    pixels::Expect(image, Qt::black, {{20, 50}});
 
     right->properties.hidden = true;
-    EXPECT_EQ(render().pixelColor(100, 50), QColor(Qt::black)) << "no fill to a curve that is not drawn";
+    pixels::Expect(Render(View()), Qt::black, {{100, 50}}); // no fill to a curve that is not drawn
     right->properties.hidden = false;
+    View().RemoveDepthDataChannel({1, "", -1}); // no wildcards here
+    EXPECT_EQ(Render(View()), image);
     View().RemoveDepthDataChannel(left->GetDataChannelIdentifier());
-    EXPECT_EQ(render().pixelColor(100, 50), QColor(Qt::black));
+    pixels::Expect(Render(View()), Qt::black, {{100, 50}});
 }
 
-TEST_F(UserDataViewTest, NamesPensAndChannels)
+TEST_F(UserDataViewTest, StateGoesToTheChannelsThatAreStillThere)
 {
-    auto const a = MakeRamp("p", 0, "A");
-    auto const b = MakeRamp("p", 1, "B");
-    Add(a);
-    Add(b);
-    EXPECT_EQ(View().GetDataChannelIDs(), (std::vector<DataChannelIdentifier>{{1, "p", 0}, {1, "p", 1}}));
-    View().SetPen(DataChannelIdentifier(1, "p", 1), QPen(Qt::darkCyan, 4));
-    EXPECT_EQ(View().GetPenFromDci(DataChannelIdentifier(1, "p", 1)), QPen(Qt::darkCyan, 4));
-    EXPECT_EQ(View().GetPenFromDci(DataChannelIdentifier(1, "p", 5)), QPen());
-    EXPECT_EQ(View().GetCurve(DataChannelIdentifier(1, "p", 5)), nullptr);
-    View().SetName(QStringLiteral("Other"));
-    EXPECT_EQ(pair.GetBaseViewWidgetName(), QStringLiteral("Other"));
-    EXPECT_EQ(pair.GetBaseScaleView()->GetName(), QStringLiteral("Other"));
+    QList<std::shared_ptr<Channel>> const channels{MakeRamp("p", 0, "A"), MakeRamp("p", 1, "B"),
+                                                   MakeRamp("q", 0, "C")};
+    for (int i = 0; i < 3; ++i) {
+        View().AssignDepthDataChannel(channels[i]);
+        View().SetPen(channels[i]->GetDataChannelIdentifier(), QPen(QColor(10 * i, 0, 0), i));
+        View().SetScaleInterval(channels[i]->GetDataChannelIdentifier(), Interval(i, -i));
+    }
+    EXPECT_EQ(View().GetPenFromDci(DataChannelIdentifier(1, "p", 5)), QPen()) << "not in the view";
+    View().SetShowMarkersB(true);
+    View().SetShowBaseline(false);
+    FillAreaDefinition fill;
+    fill.name = "F";
+    View().SetFillAreaDefinitions({fill});
+    pair.GetBaseScaleView()->OnSelected(pair.findChildren<ScaleItem*>()[2]);
+    USER_DATAVIEW_STRUCT const record = View().WriteState_UserDataView();
+    EXPECT_EQ(record.name, QStringLiteral("Mine"));
+    EXPECT_EQ(record.object_name, UserDataView::OBJECT_NAME_);
+
+    UserCombinedViewWidget other(QStringLiteral("Mine"), bench.context, &column);
+    UserDataView& view = *other.GetUserDataView();
+    for (int const i : {0, 2}) {
+        view.AssignDepthDataChannel(channels[i]);
+    }
+    view.RestoreState_UserDataView(record);
+    view.UpdateScales();
+    EXPECT_TRUE(view.GetShowMarkersB());
+    EXPECT_FALSE(view.GetShowMarkersA() || view.GetShowBaseline());
+    EXPECT_EQ(view.GetFillAreaDefinitions(), View().GetFillAreaDefinitions());
+    for (int const i : {0, 2}) {
+        DepthCurve const* const curve = view.GetCurve(record.curves[static_cast<std::size_t>(i)]);
+        EXPECT_EQ(curve->GetScale(), Interval(i, -i));
+        EXPECT_EQ(curve->GetCurvePen(), QPen(QColor(10 * i, 0, 0), i));
+    }
+    EXPECT_EQ(view.GetSelectedScaleCurveInfo()->header.mnemonic, QStringLiteral("C"));
+    EXPECT_FALSE(view.GetScales()[0]->is_selected);
 }
 } // namespace

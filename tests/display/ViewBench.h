@@ -5,6 +5,7 @@
 
 #include "app/kit/Globals.h"
 #include "app/kit/SettingsSingleton.h"
+#include "display/BaseDataView.h"
 #include "display/BaseViewWidgetParameters.h"
 #include "display/ColumnContext.h"
 #include "display/ColumnSlots.h"
@@ -13,6 +14,7 @@
 #include "model/DepthLogPass.h"
 #include "model/LogPassProperties.h"
 #include "model/TimeLog.h"
+#include "support/Pixels.h"
 #include "well/DepthMarker.h"
 #include "well/DirectionalSurveyData.h"
 
@@ -89,7 +91,7 @@ inline std::shared_ptr<Channel> MakeRamp(QString const& hash, int index, QString
                        [factor](double depth) { return (depth - 1000) / 100 * factor; });
 }
 
-/// Writes down what the views ask of their column, and passes cursor and selection on like a real one.
+/// Writes down what the views ask of their column, and passes the cursor on like a real one.
 class Column final : public ColumnSlots
 {
 public:
@@ -99,72 +101,45 @@ public:
         DataChannelIdentifier identifier;
         Interval before;
         Interval after;
+        [[nodiscard]] bool operator==(Undo const&) const = default;
     };
 
-    void MoveCursors(int y, float depth, QString const& text) override
-    {
-        calls << QStringLiteral("MoveCursors");
-        cursor_y = y;
-        cursor_depth = depth;
-        cursor_text = text;
-        if (on_cursor) {
-            on_cursor(y);
-        }
-    }
-    void RemoveCursors() override
-    {
-        calls << QStringLiteral("RemoveCursors");
-        if (on_cursor) {
-            on_cursor(-1);
-        }
-    }
-    void OnVerticalSelectionBegin(int y) override
-    {
-        calls << QStringLiteral("Begin");
-        selection = {y};
-    }
-    void OnVerticalSelectionEnd(int y1, int y2) override
-    {
-        calls << QStringLiteral("End");
-        selection = {y1, y2};
-    }
-    void OnScaleHeightChanged() override { calls << QStringLiteral("ScaleHeight"); }
-    void OnVisibleHeightChanged(int height) override
-    {
-        calls << QStringLiteral("VisibleHeight");
-        visible_height = height;
-    }
-    void OnVisibleWidgetsChanged() override { calls << QStringLiteral("VisibleWidgets"); }
+    void MoveCursors(int y, float /*depth*/, QString const& /*text*/) override { TellCursor(y); }
+    void RemoveCursors() override { TellCursor(-1); }
+    void OnVerticalSelectionBegin(int /*y*/) override { calls << QStringLiteral("Begin"); }
+    void OnVerticalSelectionEnd(int /*y1*/, int /*y2*/) override {}
+    void OnScaleHeightChanged() override {}
+    void OnVisibleHeightChanged(int /*height*/) override {}
+    void OnVisibleWidgetsChanged() override {}
     void OnMoveViewWidget(QWidget* widget, QPointF const& global) override
     {
-        calls << QStringLiteral("Move");
         moved = widget;
         moved_to = global;
     }
     void PushUndo(QString const& view, DataChannelIdentifier const& identifier, Interval const& before,
                   Interval const& after) override
     {
-        calls << QStringLiteral("Undo");
         undo.push_back({view, identifier, before, after});
     }
     void OnShiftCompleted() override { calls << QStringLiteral("ShiftCompleted"); }
     void OnDepthStretchStarted() override { calls << QStringLiteral("StretchStarted"); }
     void OnDepthStretchCompleted() override { calls << QStringLiteral("StretchCompleted"); }
-    void OnUndoBatchStarted() override { calls << QStringLiteral("BatchStarted"); }
-    void OnUndoBatchCompleted() override { calls << QStringLiteral("BatchCompleted"); }
 
     [[nodiscard]] qsizetype Count(QString const& call) const { return calls.count(call); }
 
     QStringList calls;
     std::vector<Undo> undo;
-    std::vector<int> selection;
-    int cursor_y = -1;
-    float cursor_depth = 0;
-    QString cursor_text;
-    int visible_height = 0;
     QWidget* moved = nullptr;
     QPointF moved_to;
     std::function<void(int)> on_cursor;
+
+private:
+    void TellCursor(int y) const
+    {
+        if (on_cursor) {
+            on_cursor(y);
+        }
+    }
 };
 
 /// A column's context showing 1000 to 1100 m, in metres, with the display state of a 96 dpi screen. Puts the
@@ -204,13 +179,12 @@ public:
     ColumnContext context;
 };
 
-/// A depth log pass of this hash without curves, to be the current one.
-inline std::shared_ptr<DepthLogPass> MakePass(QString const& hash)
+/// What the view paints for 1000 to 1100 m on 200 x 101 pixels.
+inline QImage Render(BaseDataView& view, QColor const& ground = Qt::black, bool on_screen = true,
+                     Interval const& interval = {1000, 1100})
 {
-    BASE_LOGPASS_STRUCT record;
-    record.properties.identifier = LogPassIdentifier(1, hash);
-    std::vector<double> depths{1000, 1100};
-    return std::make_shared<DepthLogPass>(record, BaseLog::DataMatrix(), true, 0.0F, 1.0F, depths);
+    return pixels::Paint({200, 101}, ground,
+                         [&](QPainter& painter) { view.RenderToPainter(painter, interval, 96, on_screen); });
 }
 
 /// A move with the left button down, which QTest::mouseMove does not carry.

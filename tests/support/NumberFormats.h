@@ -20,7 +20,7 @@ struct NumberFormat
     {
         QChar const thousands = selection == International ? QChar('.') : QChar(0x202F);
         if (selection != US) {
-            us.replace('.', '#').replace(',', thousands).replace('#', ',');
+            us.replace('.', '\1').replace(',', thousands).replace('\1', ',');
         }
         return us;
     }

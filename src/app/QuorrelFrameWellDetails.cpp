@@ -33,7 +33,10 @@ void QuorrelFrame::OnImportWellDetails()
     }
     WellDetailsImporter const importer(path);
     if (auto const message = WellDetailsImport::Check(importer); !message.isEmpty()) {
-        QMessageBox::warning(this, tr("Import JSON Well Details File"), message);
+        QMessageBox box(QMessageBox::Warning, tr("Import JSON Well Details File"), message, QMessageBox::Ok,
+                        this);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
         return;
     }
     JsonImporterDialog dialog(this, !importer.GetInclinationSurvey().first.empty(),

@@ -3,7 +3,6 @@
 
 #include "well/BaseTable.h"
 
-#include "app/kit/ProjectText.h"
 #include "app/kit/Quorrel.h"
 #include "display/InputStyle.h"
 #include "well/NoTableItemError.h"
@@ -23,6 +22,9 @@ namespace {
 /// The exact number behind a cell's text, and the text it was shown as; it counts while the text is the same.
 constexpr int VALUE_ROLE = Qt::UserRole;
 constexpr int SHOWN_TEXT_ROLE = Qt::UserRole + 1;
+/// How it is shown: a depth, or the decimals of another number.
+constexpr int DECIMALS_ROLE = Qt::UserRole + 2;
+constexpr int DEPTH = -1;
 /// So much of the messages of one table is shown.
 constexpr qsizetype LONGEST_MESSAGE = 1000;
 
@@ -39,7 +41,7 @@ BaseTable::BaseTable(QStringList const& headings, QWidget* parent)
 {
     setHorizontalHeaderLabels(headings);
     SetUpView(*this);
-    setItemDelegate(new TextDelegate(this));
+    setItemDelegate(new TextDelegate(this, [this](QModelIndex const& index) { ShowTypedNumber(index); }));
 }
 
 int BaseTable::AddRow()
@@ -59,24 +61,27 @@ void BaseTable::InsertStringItem(int row, int column, QString const& text)
     setItem(row, column, new QTableWidgetItem(text));
 }
 
-void BaseTable::InsertNumberItem(int row, int column, QString const& text, double value)
+void BaseTable::InsertNumberItem(int row, int column, double value, int decimals)
 {
+    QString const text = decimals == DEPTH
+                             ? TableNumber::DepthText(value)
+                             : Quorrel::FloatTypeToString(static_cast<float>(value), decimals, false);
     auto* item = new QTableWidgetItem(text);
     item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     item->setData(VALUE_ROLE, value);
     item->setData(SHOWN_TEXT_ROLE, text);
+    item->setData(DECIMALS_ROLE, decimals);
     setItem(row, column, item);
 }
 
 void BaseTable::InsertFloatItem(int row, int column, float value, int decimals)
 {
-    InsertNumberItem(row, column, Quorrel::FloatTypeToString(value, decimals, false),
-                     static_cast<double>(value));
+    InsertNumberItem(row, column, static_cast<double>(value), decimals);
 }
 
 void BaseTable::InsertDepthItem(int row, int column, double metres)
 {
-    InsertNumberItem(row, column, TableNumber::DepthText(metres), metres);
+    InsertNumberItem(row, column, metres, DEPTH);
 }
 
 void BaseTable::ColorCodeItem(int row, int column, bool valid)
@@ -149,20 +154,6 @@ double BaseTable::ItemToDepth(int row, int column, bool& ok, QString& text)
     return ReadNumber(row, column, true, ok, text);
 }
 
-QString BaseTable::ItemToText(int row, int column, bool& ok, QString& text)
-{
-    QString const cell_text = GetText(row, column);
-    auto const message = Quorrel::CheckProjectText(tr("The text in row %1 is").arg(row + 1), cell_text);
-    if (item(row, column) != nullptr) {
-        ColorCodeItem(row, column, message.isEmpty());
-    }
-    if (!message.isEmpty()) {
-        ok = false;
-        AddMessage(text, message);
-    }
-    return cell_text;
-}
-
 QString BaseTable::GetText(int row, int column) const
 {
     auto const* cell = item(row, column);
@@ -207,14 +198,18 @@ void BaseTable::DeleteSelectedRows()
     setRowCount(kept);
 }
 
-void BaseTable::commitData(QWidget* editor)
+void BaseTable::ShowTypedNumber(QModelIndex const& index)
 {
-    QTableWidget::commitData(editor);
-    auto const* cell = currentItem();
-    if (cell != nullptr && cell->data(VALUE_ROLE).isValid()) {
-        bool ok = true;
-        QString message;
-        ReadNumber(cell->row(), cell->column(), false, ok, message);
+    auto const* cell = item(index.row(), index.column());
+    if (cell == nullptr || !cell->data(VALUE_ROLE).isValid()) {
+        return;
+    }
+    int const decimals = cell->data(DECIMALS_ROLE).toInt();
+    bool ok = true;
+    QString message;
+    double const value = ReadNumber(index.row(), index.column(), decimals == DEPTH, ok, message);
+    if (ok) {
+        InsertNumberItem(index.row(), index.column(), value, decimals);
     }
 }
 

@@ -35,16 +35,12 @@ public:
     double ItemToDouble(int row, int column, bool& ok, QString& text);
     /// The same for a depth in the settings' unit; gives metres.
     double ItemToDepth(int row, int column, bool& ok, QString& text);
-    /// The text of a cell; one too long for a project file is bad.
-    QString ItemToText(int row, int column, bool& ok, QString& text);
 
     void CopyData() const override;
     void DeleteSelectedRows() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    /// Marks a number as soon as it was typed.
-    void commitData(QWidget* editor) override;
 
     /// A row as a paste reads it.
     [[nodiscard]] virtual QString GetRowText(int row) const;
@@ -54,7 +50,9 @@ protected:
     int AddRows(qsizetype count);
 
 private:
-    void InsertNumberItem(int row, int column, QString const& text, double value);
+    /// Shows a number just typed as the others, and marks what is none.
+    void ShowTypedNumber(QModelIndex const& index);
+    void InsertNumberItem(int row, int column, double value, int decimals);
     [[nodiscard]] QTableWidgetItem& GetItem(int row, int column) const;
     double ReadNumber(int row, int column, bool is_depth, bool& ok, QString& text);
 };

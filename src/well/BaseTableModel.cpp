@@ -65,9 +65,6 @@ QString BaseTableModel::GetError(Column const& column, Cell const& cell)
     if (cell.is_valid) {
         return {};
     }
-    if (column.kind == Kind::Text) {
-        return Quorrel::CheckProjectText(tr("The text is"), cell.text);
-    }
     if (cell.text.isEmpty() && cell.number < column.minimum) {
         return tr("The number must be at least %1.")
             .arg(Quorrel::FloatTypeToString(static_cast<float>(column.minimum), 0, false));
@@ -127,12 +124,7 @@ BaseTableModel::Cell BaseTableModel::ReadNumber(Column const& column, Cell cell,
 
 void BaseTableModel::Validate(Column const& column, Cell& cell)
 {
-    if (!cell.is_valid) {
-        return;
-    }
-    if (column.kind == Kind::Text) {
-        cell.is_valid = Quorrel::FitsProjectFile(cell.text);
-    } else if (IsNumber(column.kind) && column.is_editable && !IsMissing(column, cell.number)) {
+    if (cell.is_valid && IsNumber(column.kind) && column.is_editable && !IsMissing(column, cell.number)) {
         cell.is_valid = std::isfinite(cell.number) && cell.number >= column.minimum;
         if (!std::isfinite(cell.number)) {
             cell.text = Quorrel::FloatTypeToString(static_cast<float>(cell.number), 2, false);
@@ -156,6 +148,9 @@ bool BaseTableModel::setData(QModelIndex const& index, QVariant const& value, in
         cell = ReadNumber(column, cell, value.toString());
         break;
     case Kind::Text:
+        if (!Quorrel::FitsProjectFile(value.toString())) {
+            return false;
+        }
         cell = TextCell(value.toString());
         break;
     case Kind::Color:

@@ -10,8 +10,9 @@
 #include <vector>
 
 /// A table of well data: rows of typed cells under fixed columns. Numbers keep their exact value beside the
-/// text they are shown as, depths in metres; only an edit that changes the text changes the value. What
-/// cannot be taken stays in the cell as it was typed and is marked, and CheckCells() tells of it.
+/// text they are shown as, depths in metres; only an edit that changes the text changes the value. What is no
+/// number stays in the cell as it was typed and is marked, and CheckCells() tells of it; a text too long for
+/// a project file is not taken.
 class BaseTableModel : public QAbstractTableModel
 {
     Q_OBJECT

@@ -37,6 +37,12 @@ QWidget* ColorPickerDelegate::createEditor(QWidget* parent,
     return picker;
 }
 
+void ColorPickerDelegate::updateEditorGeometry(QWidget* editor, QStyleOptionViewItem const& option,
+                                               [[maybe_unused]] QModelIndex const& index) const
+{
+    editor->setGeometry(option.rect);
+}
+
 void ColorPickerDelegate::setEditorData(QWidget* editor, QModelIndex const& index) const
 {
     static_cast<ColorPicker*>(editor)->SetColor(index.data(Qt::EditRole).value<QColor>());

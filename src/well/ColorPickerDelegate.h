@@ -17,6 +17,10 @@ public:
     void setEditorData(QWidget* editor, QModelIndex const& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model, QModelIndex const& index) const override;
 
+    /// Over the whole cell, its swatch too.
+    void updateEditorGeometry(QWidget* editor, QStyleOptionViewItem const& option,
+                              QModelIndex const& index) const override;
+
 protected:
     void initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const override;
 };

@@ -8,8 +8,6 @@
 
 #include <QMessageBox>
 
-#include <utility>
-
 DepthMarkerTable::DepthMarkerTable(QWidget* parent) : DepthMarkerTable(new DepthMarkerModel, parent) {}
 
 DepthMarkerTable::DepthMarkerTable(DepthMarkerModel* model, QWidget* parent)
@@ -34,12 +32,11 @@ QList<DepthMarker> DepthMarkerTable::GetMarkers() const
     return model_->GetMarkers();
 }
 
-bool DepthMarkerTable::AskForErrors(QStringList const& texts)
+bool DepthMarkerTable::AskForErrors(PasteReport const& report)
 {
-    for (auto const& text : texts) {
+    for (auto const& error : report.GetErrorTexts()) {
         QMessageBox box(QMessageBox::Question, tr("Paste"),
-                        tr("Paste Error - Unable to convert to depth: ") + text + "\n" +
-                            tr("Do you want to continue(current line will be discarded)?"),
+                        error + "\n" + tr("Do you want to continue(current line will be discarded)?"),
                         QMessageBox::Yes | QMessageBox::YesToAll | QMessageBox::No, this);
         box.setTextFormat(Qt::PlainText);
         int const answer = box.exec();
@@ -55,11 +52,9 @@ bool DepthMarkerTable::AskForErrors(QStringList const& texts)
 
 void DepthMarkerTable::ParsePasteAction()
 {
-    auto pasted = WellTablePaste::ReadMarkers(GetClipboardText());
-    QStringList const errors = std::exchange(pasted.errors, {});
-    if (ConfirmPaste(*this, pasted, static_cast<qsizetype>(pasted.rows.size()),
-                     tr("No Depth Marker data found in pasted data. Check number format and try again")) &&
-        AskForErrors(errors)) {
-        model_->AppendMarkers(QList<DepthMarker>(pasted.rows.cbegin(), pasted.rows.cend()));
-    }
+    AppendPasted(
+        *this, WellTablePaste::ReadMarkers(GetClipboardText()),
+        tr("No Depth Marker data found in pasted data. Check number format and try again"),
+        [this](auto const& rows) { model_->AppendMarkers(QList<DepthMarker>(rows.cbegin(), rows.cend())); },
+        [this](PasteReport const& report) { return AskForErrors(report); });
 }

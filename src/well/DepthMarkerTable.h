@@ -26,7 +26,7 @@ public:
 
 private:
     explicit DepthMarkerTable(DepthMarkerModel* model, QWidget* parent);
-    [[nodiscard]] bool AskForErrors(QStringList const& texts);
+    [[nodiscard]] bool AskForErrors(PasteReport const& report);
 
     DepthMarkerModel* model_;
 };

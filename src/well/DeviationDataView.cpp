@@ -103,12 +103,8 @@ void DeviationDataView::ReplaceTvdChannel(std::shared_ptr<StorageDataChannel> co
 
 void DeviationDataView::RenderBaseline(QPainter& painter) const
 {
-    int const width = painter.window().width();
-    double const x = Quorrel::ConvertCurveValueToX(0, selected_scale_->scale, width);
-    if (!(x >= 0 && x < width)) {
-        return;
-    }
-    int const column = Quorrel::TruncateToInt(x);
+    int const column = Quorrel::TruncateToInt(
+        Quorrel::ConvertCurveValueToX(0, selected_scale_->scale, painter.window().width()));
     int const bottom = painter.window().height() - 1;
     QPen pen = painter.pen();
     pen.setColor(Qt::white);
@@ -127,7 +123,8 @@ void DeviationDataView::RenderToPainter(QPainter& painter, Interval const& inter
     int const width = painter.window().width();
     int const height = painter.window().height();
     QPen const saved_pen = painter.pen();
-    if (show_baseline_ && selected_scale_ && !IsEmpty()) {
+    if (show_baseline_ && selected_scale_ && !IsEmpty() && selected_scale_->scale.lower < 0 &&
+        selected_scale_->scale.upper > 0) {
         RenderBaseline(painter);
     }
     for (DepthCurve const& curve : depth_curves_) {

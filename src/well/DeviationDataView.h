@@ -30,7 +30,7 @@ public:
     void SetupDataChannels();
     /// Makes the channel of true vertical depth anew in the settings' depth unit; the deviation stays.
     void ToggleTvdUnit();
-    /// A line at the zero of the selected scale, readable on any background.
+    /// A line at the zero of the selected scale, which there must be, readable on any background.
     void RenderBaseline(QPainter& painter) const;
 
     [[nodiscard]] std::shared_ptr<StorageDataChannel const> GetDeviationChannel() const { return deviation_; }

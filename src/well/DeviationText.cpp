@@ -4,6 +4,7 @@
 #include "well/DeviationText.h"
 
 #include "app/kit/Quorrel.h"
+#include "well/PastedRows.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -74,6 +75,10 @@ DeviationTextResult DeviationText::Read(QIODevice& device, DeviationTextLayout c
                     "Not enough data column in imported data. Did you correctly specify the line number of "
                     "the first "
                     "data row??"};
+        }
+        if (std::ssize(result.stations) == PasteReport::MAXIMUM_ROWS) {
+            return {{},
+                    QStringLiteral("The file holds more than %1 stations.").arg(PasteReport::MAXIMUM_ROWS)};
         }
         QString const& md_text = columns[layout.md_column - 1];
         QString const& inclination_text = columns[layout.inclination_column - 1];

@@ -36,13 +36,13 @@ class DeviationText
 public:
     static constexpr char const* WHITESPACE_SEPARATOR = "(?<=[^ \\t])[ \\t]+(?=[^ \\t])";
     static constexpr char const* BLANK_SEPARATOR = " ";
-    static constexpr char const* TAB_SEPARATOR = "\\t";
+    static constexpr char const* TAB_SEPARATOR = "\t";
     static constexpr char const* COMMA_SEPARATOR = ",";
     /// Title of the boxes that show an error.
     static constexpr char const* TITLE = "Survey Import";
 
     [[nodiscard]] static DeviationTextResult ReadFile(QString const& path, DeviationTextLayout const& layout);
-    /// Every line from the first data line on must hold a station, an empty one too. Of a line longer than
-    /// 65,536 characters only that many are looked at.
+    /// Every line from the first data line on must hold a station, an empty one too, and there are no more
+    /// than a table of stations holds. Of a line longer than 65,536 characters only that many are looked at.
     [[nodiscard]] static DeviationTextResult Read(QIODevice& device, DeviationTextLayout const& layout);
 };

@@ -32,6 +32,35 @@ float ToRadiansFloat(float degrees)
     return static_cast<float>(ToRadians(degrees));
 }
 
+/// Sine and cosine of a station's angles, which the formulas share.
+struct Tangent
+{
+    double sin_incl;
+    double cos_incl;
+    double sin_azi;
+    double cos_azi;
+
+    Tangent(double incl, double azi)
+        : sin_incl(std::sin(incl)), cos_incl(std::cos(incl)), sin_azi(std::sin(azi)), cos_azi(std::cos(azi))
+    {
+    }
+};
+
+double DeltaNorth(Tangent const& from, Tangent const& to, double factor)
+{
+    return (from.sin_incl * from.cos_azi + to.sin_incl * to.cos_azi) * factor;
+}
+
+double DeltaEast(Tangent const& from, Tangent const& to, double factor)
+{
+    return (from.sin_incl * from.sin_azi + to.sin_incl * to.sin_azi) * factor;
+}
+
+double DeltaTVD(Tangent const& from, Tangent const& to, double factor)
+{
+    return (from.cos_incl + to.cos_incl) * factor;
+}
+
 /// Rounding may carry the argument of an acos just past 1; NaN stays NaN.
 double ClampedAcos(double cosine)
 {
@@ -87,10 +116,10 @@ DirectionalSurveyData::DirectionalSurveyData(StationVector const& stations,
 void DirectionalSurveyData::SetSurveyData(StationVector const& stations)
 {
     StationVector sorted = stations;
-    std::sort(sorted.begin(), sorted.end(),
-              [](DirectionalSurveyItem const& a, DirectionalSurveyItem const& b) {
-                  return Quorrel::AscendingNanLast(a.measured_depth, b.measured_depth);
-              });
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](DirectionalSurveyItem const& a, DirectionalSurveyItem const& b) {
+                         return Quorrel::AscendingNanLast(a.measured_depth, b.measured_depth);
+                     });
     GenerateWellTrajectory(sorted);
 }
 
@@ -146,36 +175,39 @@ std::optional<WellTrajectoryItem> DirectionalSurveyData::InterpolateWellTrajecto
     if (upper == trajectory_.cend() || upper == trajectory_.cbegin()) {
         return std::nullopt;
     }
-    WellTrajectoryItem const& from = *(upper - 1);
-    WellTrajectoryItem const& to = *upper;
+    WellTrajectoryItem const& start = *(upper - 1);
+    WellTrajectoryItem const& end = *upper;
 
-    double const incl1 = ToRadians(from.GetInclination());
-    double const incl2 = ToRadians(to.GetInclination());
-    double const azi1 = ToRadians(from.GetAzimuth());
-    double const azi2 = ToRadians(to.GetAzimuth());
-    double const md1 = from.GetMeasuredDepth();
-    double const md2 = to.GetMeasuredDepth();
+    double const incl1 = ToRadians(start.GetInclination());
+    double const incl2 = ToRadians(end.GetInclination());
+    double const azi1 = ToRadians(start.GetAzimuth());
+    double const azi2 = ToRadians(end.GetAzimuth());
+    double const md1 = start.GetMeasuredDepth();
+    double const md2 = end.GetMeasuredDepth();
+    Tangent const from(incl1, azi1);
+    Tangent const to(incl2, azi2);
     double const beta = CalculateBeta(incl1, incl2, azi1, azi2);
     double const delta_md = md2 - md1;
     double const d = md - md1;
     double const b = beta / delta_md * d;
 
     // Direction: along the great circle from one station's tangent to the other's.
+    double const sin_b = std::sin(b);
+    double const cos_b = std::cos(b);
+    double const sin_beta = std::sin(beta);
+    double const cos_beta = std::cos(beta);
     double inclination = incl1;
     if (beta != 0 && incl1 != incl2) {
         inclination =
-            ClampedAcos(std::cos(incl1) * std::cos(b) +
-                        (std::cos(incl2) - std::cos(beta) * std::cos(incl1)) / std::sin(beta) * std::sin(b));
+            ClampedAcos(from.cos_incl * cos_b + (to.cos_incl - cos_beta * from.cos_incl) / sin_beta * sin_b);
     }
     double azimuth = azi1;
     if (azi1 != azi2) {
         double candidate = 0;
         if (inclination != 0) {
-            double const turned =
-                std::sin(incl2) * std::cos(azi2) - std::cos(beta) * std::sin(incl1) * std::cos(azi1);
-            candidate = ClampedAcos(
-                (std::cos(b) * std::sin(incl1) * std::cos(azi1) + turned * std::sin(b) / std::sin(beta)) /
-                std::sin(inclination));
+            double const turned = to.sin_incl * to.cos_azi - cos_beta * from.sin_incl * from.cos_azi;
+            candidate = ClampedAcos((cos_b * from.sin_incl * from.cos_azi + turned * sin_b / sin_beta) /
+                                    std::sin(inclination));
         }
         bool const is_between = candidate >= std::min(azi1, azi2) - AZIMUTH_TOLERANCE &&
                                 candidate <= std::max(azi1, azi2) + AZIMUTH_TOLERANCE;
@@ -183,10 +215,10 @@ std::optional<WellTrajectoryItem> DirectionalSurveyData::InterpolateWellTrajecto
     }
 
     // Position: along the chord, in proportion to the measured depth.
-    double const factor = beta == 0 ? d * 0.5 : d * std::tan(beta / 2) / beta;
-    double const tvd = from.tvd + CalculateDeltaTVD(incl1, incl2, factor);
-    double const ns = from.ns + CalculateDeltaNorth(incl1, incl2, azi1, azi2, factor);
-    double const ew = from.ew + CalculateDeltaEast(incl1, incl2, azi1, azi2, factor);
+    double const factor = CalculateRatioFactor(md1, md, beta);
+    double const tvd = start.tvd + DeltaTVD(from, to, factor);
+    double const ns = start.ns + DeltaNorth(from, to, factor);
+    double const ew = start.ew + DeltaEast(from, to, factor);
 
     return WellTrajectoryItem(DirectionalSurveyItem(md, static_cast<float>(inclination / pi * 180),
                                                     static_cast<float>(azimuth / pi * 180)),
@@ -199,10 +231,12 @@ TrajectoryDeltaValues DirectionalSurveyData::CalculateDeltaValues(float md1, flo
 {
     double const beta = CalculateBeta(incl1, incl2, azi1, azi2);
     double const factor = CalculateRatioFactor(md1, md2, beta);
+    Tangent const from(incl1, azi1);
+    Tangent const to(incl2, azi2);
     return {.dls = CalculateDoglegSeverity(md1, md2, beta),
-            .delta_tvd = CalculateDeltaTVD(incl1, incl2, factor),
-            .delta_ew = CalculateDeltaEast(incl1, incl2, azi1, azi2, factor),
-            .delta_ns = CalculateDeltaNorth(incl1, incl2, azi1, azi2, factor)};
+            .delta_tvd = DeltaTVD(from, to, factor),
+            .delta_ew = DeltaEast(from, to, factor),
+            .delta_ns = DeltaNorth(from, to, factor)};
 }
 
 TrajectoryDeltaValues DirectionalSurveyData::CalculateWellTrajectoryItem(DirectionalSurveyItem const& from,
@@ -230,18 +264,18 @@ double DirectionalSurveyData::CalculateRatioFactor(double md1, double md2, doubl
 double DirectionalSurveyData::CalculateDeltaNorth(double incl1, double incl2, double azi1, double azi2,
                                                   double factor)
 {
-    return (std::sin(incl1) * std::cos(azi1) + std::sin(incl2) * std::cos(azi2)) * factor;
+    return DeltaNorth(Tangent(incl1, azi1), Tangent(incl2, azi2), factor);
 }
 
 double DirectionalSurveyData::CalculateDeltaEast(double incl1, double incl2, double azi1, double azi2,
                                                  double factor)
 {
-    return (std::sin(incl1) * std::sin(azi1) + std::sin(incl2) * std::sin(azi2)) * factor;
+    return DeltaEast(Tangent(incl1, azi1), Tangent(incl2, azi2), factor);
 }
 
 double DirectionalSurveyData::CalculateDeltaTVD(double incl1, double incl2, double factor)
 {
-    return (std::cos(incl1) + std::cos(incl2)) * factor;
+    return DeltaTVD(Tangent(incl1, 0), Tangent(incl2, 0), factor);
 }
 
 double DirectionalSurveyData::CalculateDoglegSeverity(double md1, double md2, double beta)

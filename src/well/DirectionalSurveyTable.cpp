@@ -58,9 +58,7 @@ std::vector<DirectionalSurveyItem> DirectionalSurveyTable::GetSurveyVector()
 
 void DirectionalSurveyTable::ParsePasteAction()
 {
-    auto const pasted = WellTablePaste::ReadSurvey(GetClipboardText());
-    if (ConfirmPaste(*this, pasted, static_cast<qsizetype>(pasted.rows.size()),
-                     tr("No survey data found in pasted data. Check number format and try again"))) {
-        Append(pasted.rows);
-    }
+    AppendPasted(*this, WellTablePaste::ReadSurvey(GetClipboardText()),
+                 tr("No survey data found in pasted data. Check number format and try again"),
+                 [this](auto const& rows) { Append(rows); });
 }

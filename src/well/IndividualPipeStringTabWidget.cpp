@@ -114,11 +114,8 @@ void IndividualPipeStringTabWidget::UpdateSetDepth()
 PipeString IndividualPipeStringTabWidget::GetPipeString()
 {
     UpdateOutsideCementDepths();
-    PipeString pipe_string(NameEdit::GetCheckedText(*name_, tr("The name of the pipe string is")),
-                           set_depth_->GetRequiredDepth_metric(), is_tubing_->isChecked(),
+    PipeString pipe_string(name_->text(), set_depth_->GetRequiredDepth_metric(), is_tubing_->isChecked(),
                            table_->GetPipeComponents());
-    pipe_string.SetOuterCementData(
-        cement_depth_.lower, cement_depth_.upper,
-        NameEdit::GetCheckedText(*cement_description_, tr("The description of the cement is")));
+    pipe_string.SetOuterCementData(cement_depth_.lower, cement_depth_.upper, cement_description_->text());
     return pipe_string;
 }

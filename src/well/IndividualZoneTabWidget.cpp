@@ -23,7 +23,7 @@ IndividualZoneTabWidget::IndividualZoneTabWidget(ZoneTrack const& track, QWidget
 
 ZoneTrack IndividualZoneTabWidget::GetZoneTrack() const
 {
-    ZoneTrack track(NameEdit::GetCheckedText(*name_, tr("The name of the zone track is")));
+    ZoneTrack track(name_->text());
     track.SetZones(table_->GetZones());
     return track;
 }

@@ -18,7 +18,7 @@ public:
     explicit IndividualZoneTabWidget(ZoneTrack const& track, QWidget* parent = nullptr);
 
     [[nodiscard]] ZoneTable* GetZoneTable() const { return table_; }
-    /// @throws std::invalid_argument for a wrong cell or a name too long for a project file
+    /// @throws std::invalid_argument for a wrong cell
     [[nodiscard]] ZoneTrack GetZoneTrack() const;
 
 signals:

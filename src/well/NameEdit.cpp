@@ -3,21 +3,10 @@
 
 #include "well/NameEdit.h"
 
-#include "app/kit/ProjectText.h"
-#include "well/TextDelegate.h"
-
-#include <stdexcept>
+#include "well/TextLimit.h"
 
 NameEdit::NameEdit(QString const& text, QWidget* parent) : QLineEdit(parent)
 {
-    setMaxLength(TextDelegate::MAXIMUM_LENGTH);
+    new TextLimit(this);
     setText(text);
-}
-
-QString NameEdit::GetCheckedText(QLineEdit const& edit, QString const& subject)
-{
-    if (auto const message = Quorrel::CheckProjectText(subject, edit.text()); !message.isEmpty()) {
-        throw std::invalid_argument(message.toStdString());
-    }
-    return edit.text();
 }

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QObject>
 #include <QStringList>
 
 #include <vector>
@@ -25,6 +26,16 @@ struct PasteReport
         if (++error_count <= MAXIMUM_ERRORS) {
             errors.push_back(error);
         }
+    }
+
+    /// The errors told one by one, the last with the number of those that are not.
+    [[nodiscard]] QStringList GetErrorTexts() const
+    {
+        QStringList texts = errors;
+        if (auto const more = error_count - errors.size(); more > 0) {
+            texts.back() += QObject::tr("\n(and %1 more lines)").arg(more);
+        }
+        return texts;
     }
 };
 

@@ -8,7 +8,6 @@ constexpr int OD_COLUMN = 0;
 constexpr int ID_COLUMN = 1;
 constexpr int WEIGHT_COLUMN = 2;
 constexpr int LENGTH_COLUMN = 3;
-constexpr int DESCRIPTION_COLUMN = 4;
 constexpr int TOP_COLUMN = 5;
 constexpr int BOTTOM_COLUMN = 6;
 } // namespace

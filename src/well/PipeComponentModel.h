@@ -12,6 +12,8 @@ class PipeComponentModel : public BaseTableModel
 {
     Q_OBJECT
 public:
+    static constexpr int DESCRIPTION_COLUMN = 4;
+
     explicit PipeComponentModel(QObject* parent = nullptr);
 
     /// Metres.

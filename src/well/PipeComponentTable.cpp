@@ -6,8 +6,6 @@
 #include "well/PipeComponentModel.h"
 #include "well/WellTablePaste.h"
 
-#include <QHeaderView>
-
 PipeComponentTable::PipeComponentTable(QWidget* parent) : PipeComponentTable(new PipeComponentModel, parent)
 {
 }
@@ -15,7 +13,7 @@ PipeComponentTable::PipeComponentTable(QWidget* parent) : PipeComponentTable(new
 PipeComponentTable::PipeComponentTable(PipeComponentModel* model, QWidget* parent)
     : BaseModelTable(model, parent), model_(model)
 {
-    horizontalHeader()->resizeSection(4, 220);
+    StretchColumn(*this, PipeComponentModel::DESCRIPTION_COLUMN);
 }
 
 void PipeComponentTable::InitializeTable(std::vector<PipeComponent> const& components)
@@ -47,9 +45,7 @@ std::vector<PipeComponent> PipeComponentTable::GetPipeComponents() const
 
 void PipeComponentTable::ParsePasteAction()
 {
-    auto const pasted = WellTablePaste::ReadPipeComponents(GetClipboardText());
-    if (ConfirmPaste(*this, pasted, static_cast<qsizetype>(pasted.rows.size()),
-                     tr("No Pipe Component data found in pasted data. Check number format and try again"))) {
-        model_->AppendComponents(pasted.rows);
-    }
+    AppendPasted(*this, WellTablePaste::ReadPipeComponents(GetClipboardText()),
+                 tr("No Pipe Component data found in pasted data. Check number format and try again"),
+                 [this](auto const& rows) { model_->AppendComponents(rows); });
 }

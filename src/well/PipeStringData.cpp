@@ -10,12 +10,17 @@
 void PipeStringData::SetPipeStringVector(std::vector<PipeString> const& strings)
 {
     strings_ = strings;
-    std::sort(strings_.begin(), strings_.end(), [](PipeString const& a, PipeString const& b) {
+    std::stable_sort(strings_.begin(), strings_.end(), [](PipeString const& a, PipeString const& b) {
         if (a.GetIsTubing() != b.GetIsTubing()) {
             return a.GetIsTubing();
         }
         return Quorrel::AscendingNanLast(a.GetNominalID(), b.GetNominalID());
     });
+    outside_at_top_.clear();
+    for (PipeString const& string : strings_) {
+        PipeString const* const outside = FindOutsidePipeAtDepth(string, string.GetDepthInterval().lower);
+        outside_at_top_.push_back(outside != nullptr ? outside - strings_.data() : -1);
+    }
 }
 
 std::optional<Interval> PipeStringData::GetDepthInterval_metric() const
@@ -123,17 +128,14 @@ CalculatedPipeComponent const* PipeStringData::FindOutsideComponentAtDepth(PipeS
 PipeString const* PipeStringData::FindAttachedLiner(PipeString const& string, double depth) const
 {
     PipeString const* liner = nullptr;
-    for (PipeString const& candidate : strings_) {
+    for (std::size_t i = 0; i < strings_.size(); ++i) {
+        PipeString const& candidate = strings_[i];
         Interval const& interval = candidate.GetDepthInterval();
-        if (candidate.GetIsTubing() || depth >= interval.upper || !(string == interval.lower) ||
-            !(string.GetIDinterval().upper > candidate.GetIDinterval().upper)) {
-            continue;
-        }
-        if (liner != nullptr && !(interval.lower < liner->GetDepthInterval().lower)) {
-            continue;
-        }
-        PipeString const* const outside = FindOutsidePipeAtDepth(candidate, interval.lower);
-        if (outside != nullptr && *outside == string) {
+        bool const qualifies = !candidate.GetIsTubing() && !(depth >= interval.upper) &&
+                               string == interval.lower &&
+                               string.GetIDinterval().upper > candidate.GetIDinterval().upper &&
+                               outside_at_top_[i] >= 0 && strings_[outside_at_top_[i]] == string;
+        if (qualifies && (liner == nullptr || interval.lower < liner->GetDepthInterval().lower)) {
             liner = &candidate;
         }
     }

@@ -7,6 +7,7 @@
 
 #include <QList>
 
+#include <cstddef>
 #include <list>
 #include <optional>
 #include <vector>
@@ -27,7 +28,7 @@ class PipeStringData
 public:
     using ComponentList = std::list<CalculatedPipeComponent>;
 
-    /// Copies and sorts; the order of equal strings is undefined.
+    /// Copies and sorts; the order of equal strings is undefined. O(n^2) in the number of strings.
     void SetPipeStringVector(std::vector<PipeString> const& strings);
     [[nodiscard]] std::vector<PipeString> const& GetPipeStringVector() const { return strings_; }
     /// Union of the strings' intervals; no value without strings.
@@ -90,4 +91,7 @@ public:
 
 private:
     std::vector<PipeString> strings_;
+    /// For each string the index of the pipe around its top, -1 where there is none: what a path asks of
+    /// every string at every step.
+    std::vector<std::ptrdiff_t> outside_at_top_;
 };

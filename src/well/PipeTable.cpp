@@ -68,7 +68,7 @@ QList<Pipe> PipeTable::GetPipes_OD_Sorted()
         pipe.weight = static_cast<float>(ItemToDouble(row, WEIGHT_COLUMN, ok, message));
         auto const* tubing = item(row, TUBING_COLUMN);
         pipe.is_tubing = tubing != nullptr && tubing->checkState() == Qt::Checked;
-        pipe.name = ItemToText(row, DESCRIPTION_COLUMN, ok, message);
+        pipe.name = GetText(row, DESCRIPTION_COLUMN);
         pipes.push_back(pipe);
     }
     if (!ok) {
@@ -94,9 +94,7 @@ QString PipeTable::GetRowText(int row) const
 
 void PipeTable::ParsePasteAction()
 {
-    auto const pasted = WellTablePaste::ReadPipes(GetClipboardText());
-    if (ConfirmPaste(*this, pasted, static_cast<qsizetype>(pasted.rows.size()),
-                     tr("No Pipe data found in pasted data. Check number format and try again"))) {
-        Append(pasted.rows);
-    }
+    AppendPasted(*this, WellTablePaste::ReadPipes(GetClipboardText()),
+                 tr("No Pipe data found in pasted data. Check number format and try again"),
+                 [this](auto const& rows) { Append(rows); });
 }

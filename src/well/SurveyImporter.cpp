@@ -19,14 +19,17 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSpinBox>
+#include <QTextStream>
 #include <QVBoxLayout>
 
 #include <stdexcept>
 
 namespace {
-/// So much of a file is shown.
-constexpr qint64 SHOWN_BYTES = 2 * 1024 * 1024;
+/// So many characters of a file are shown, and of a line; laying out longer ones takes seconds.
+constexpr qint64 SHOWN_CHARACTERS = 2 * 1024 * 1024;
+constexpr int SHOWN_LINE_CHARACTERS = 2000;
 
 QSpinBox* MakeSpinBox(int value, int maximum, QString const& object_name)
 {
@@ -39,7 +42,7 @@ QSpinBox* MakeSpinBox(int value, int maximum, QString const& object_name)
 } // namespace
 
 SurveyImporter::SurveyImporter(QWidget* parent)
-    : QDialog(parent),
+    : FormDialog(parent),
       path_(new NameEdit),
       whitespace_(new QRadioButton(tr("Whitespace"))),
       space_(new QRadioButton(tr("Space"))),
@@ -54,7 +57,6 @@ SurveyImporter::SurveyImporter(QWidget* parent)
     setWindowTitle(DeviationText::TITLE);
     path_->setObjectName("DeviationFile");
     auto* browse = new QPushButton(tr("Browse..."));
-    browse->setAutoDefault(false);
     auto* file_row = new QHBoxLayout;
     file_row->addWidget(new QLabel(tr("File:")));
     file_row->addWidget(path_);
@@ -164,6 +166,9 @@ std::vector<DirectionalSurveyItem> SurveyImporter::GetSurvey()
             ShowError(result.error);
             return {};
         }
+        if (result.stations.empty()) {
+            ShowError(tr("The file has no line %1.").arg(GetHeadingsRowNumber()));
+        }
         return result.stations;
     } catch (std::exception const& error) {
         ShowError(QString::fromUtf8(error.what()));
@@ -178,12 +183,16 @@ void SurveyImporter::LoadTextFile()
         return;
     }
     QFile file(GetFileName());
-    if (!file.open(QIODevice::ReadOnly)) {
+    // A device or a pipe might never end.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         viewer_->setPlaceholderText(tr("Unable to open file: ") + GetFileName());
         return;
     }
-    QString text = QString::fromUtf8(file.read(SHOWN_BYTES));
-    if (!file.atEnd()) {
+    QTextStream stream(&file);
+    QString text = stream.read(SHOWN_CHARACTERS);
+    static QRegularExpression const long_line(QStringLiteral("([^\n]{%1})[^\n]+").arg(SHOWN_LINE_CHARACTERS));
+    text.replace(long_line, "\\1...");
+    if (!stream.atEnd()) {
         text += tr("\n(The file is longer than shown here.)");
     }
     viewer_->setPlainText(text);

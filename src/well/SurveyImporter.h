@@ -4,8 +4,7 @@
 #pragma once
 
 #include "well/DirectionalSurveyItem.h"
-
-#include <QDialog>
+#include "well/FormDialog.h"
 
 #include <vector>
 
@@ -16,7 +15,7 @@ class QRadioButton;
 class QSpinBox;
 
 /// Reads a plain text deviation file: shows it, while the user names the separator and the columns.
-class SurveyImporter : public QDialog
+class SurveyImporter : public FormDialog
 {
     Q_OBJECT
 public:
@@ -37,7 +36,7 @@ public:
     /// What the accepted dialog has read.
     [[nodiscard]] std::vector<DirectionalSurveyItem> const& GetImportedSurvey() const { return survey_; }
 
-    /// Shows the named file, a very long one only in part.
+    /// Shows the named file, a very long one and very long lines only in part.
     void LoadTextFile();
 
 public slots:

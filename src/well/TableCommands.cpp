@@ -15,11 +15,12 @@
 
 bool TableCommands::HandleKey(QKeyEvent const& event)
 {
-    if (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_C) {
+    auto const modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::ControlModifier && event.key() == Qt::Key_C) {
         CopyData();
-    } else if (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_V) {
+    } else if (modifiers == Qt::ControlModifier && event.key() == Qt::Key_V) {
         ParsePasteAction();
-    } else if (event.modifiers() == Qt::NoModifier && event.key() == Qt::Key_Delete) {
+    } else if (modifiers == Qt::NoModifier && event.key() == Qt::Key_Delete) {
         DeleteSelectedRows();
     } else {
         return false;
@@ -36,6 +37,12 @@ void TableCommands::SetUpView(QTableView& view)
     view.horizontalHeader()->setDefaultSectionSize(95);
     view.verticalHeader()->setDefaultSectionSize(view.fontMetrics().height() + 8);
     view.horizontalHeader()->setHighlightSections(false);
+}
+
+void TableCommands::StretchColumn(QTableView& view, int column)
+{
+    view.horizontalHeader()->setStretchLastSection(false);
+    view.horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
 }
 
 QList<int> TableCommands::GetSelectedRows(QTableView const& view)
@@ -76,7 +83,7 @@ QString TableCommands::GetClipboardText()
 }
 
 bool TableCommands::ConfirmPaste(QTableView& view, PasteReport const& report, qsizetype new_rows,
-                                 QString const& nothing_matched)
+                                 QString const& nothing_matched, ErrorAnswer const& ask)
 {
     if (report.too_many || view.model()->rowCount() + new_rows > PasteReport::MAXIMUM_ROWS) {
         ShowPasteError(
@@ -88,12 +95,25 @@ bool TableCommands::ConfirmPaste(QTableView& view, PasteReport const& report, qs
         ShowPasteError(view, nothing_matched);
         return false;
     }
+    if (ask) {
+        return ask(report);
+    }
     if (!report.errors.isEmpty()) {
-        auto const more = report.error_count - report.errors.size();
-        ShowPasteError(view, report.errors.join('\n') +
-                                 (more > 0 ? QObject::tr("\n(and %1 more lines)").arg(more) : QString()));
+        ShowPasteError(view, report.GetErrorTexts().join('\n'));
     }
     return true;
+}
+
+void TableCommands::ShowLastRows(QTableView& view, int count)
+{
+    auto const& model = *view.model();
+    auto const first = model.index(model.rowCount() - count, 0);
+    view.setCurrentIndex(first);
+    view.selectionModel()->select(
+        QItemSelection(first, model.index(model.rowCount() - 1, model.columnCount() - 1)),
+        QItemSelectionModel::ClearAndSelect);
+    view.scrollTo(model.index(model.rowCount() - 1, 0));
+    view.scrollTo(first);
 }
 
 void TableCommands::ShowPasteError(QTableView& view, QString const& text)

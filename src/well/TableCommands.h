@@ -37,6 +37,8 @@ protected:
 
     /// What all tables of well data have in common to the eye.
     static void SetUpView(QTableView& view);
+    /// Gives the room that is left to this column instead of the last one.
+    static void StretchColumn(QTableView& view, int column);
     /// In ascending order.
     [[nodiscard]] static QList<int> GetSelectedRows(QTableView const& view);
     /// Copies the selected rows, each as the text that `row_text` gives for it. An empty selection leaves the
@@ -45,8 +47,26 @@ protected:
     /// One line of the clipboard's table; a tab or line end inside a text becomes a blank.
     [[nodiscard]] static QString JoinColumns(QStringList texts);
     [[nodiscard]] static QString GetClipboardText();
-    /// Shows what went wrong; true when the `new_rows` rows that were read are to be appended.
+    /// Asks or tells what to do about the lines with errors; true to go on.
+    using ErrorAnswer = std::function<bool(PasteReport const&)>;
+
+    /// Tells what went wrong, hands the rows that were read to `append(rows)` and brings them to sight.
+    /// Without `ask`, errors are shown and the other rows appended.
+    template <class Row, class Append>
+    static void AppendPasted(QTableView& view, PastedRows<Row> const& pasted, QString const& nothing_matched,
+                             Append const& append, ErrorAnswer const& ask = {})
+    {
+        auto const count = static_cast<qsizetype>(pasted.rows.size());
+        if (ConfirmPaste(view, pasted, count, nothing_matched, ask) && count > 0) {
+            append(pasted.rows);
+            ShowLastRows(view, static_cast<int>(count));
+        }
+    }
+
+private:
     [[nodiscard]] static bool ConfirmPaste(QTableView& view, PasteReport const& report, qsizetype new_rows,
-                                           QString const& nothing_matched);
+                                           QString const& nothing_matched, ErrorAnswer const& ask);
     static void ShowPasteError(QTableView& view, QString const& text);
+    /// Selects them; the first is the current one.
+    static void ShowLastRows(QTableView& view, int count);
 };

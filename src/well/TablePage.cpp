@@ -30,7 +30,6 @@ QPushButton* TablePage::AddButton(QString const& text, QString const& object_nam
 {
     auto* button = new QPushButton(text);
     button->setObjectName(object_name);
-    button->setAutoDefault(false);
     buttons_->insertWidget(buttons_->count() - 1, button);
     return button;
 }

@@ -5,20 +5,25 @@
 
 #include <QStyledItemDelegate>
 
-/// Edits cells as text. Its line edits take texts beyond what a project file holds, so that a text too long
-/// is refused with a message and not cut short in silence. The mark of a wrong cell shows in a selected row
-/// too.
+#include <functional>
+
+/// Edits cells as text that a project file holds. The mark of a wrong cell shows in a selected row too.
 class TextDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
 public:
-    static constexpr int MAXIMUM_LENGTH = 1000000;
+    using Committed = std::function<void(QModelIndex const& index)>;
 
-    using QStyledItemDelegate::QStyledItemDelegate;
+    /// `committed` is called after an editor gave its text to a cell.
+    explicit TextDelegate(QObject* parent = nullptr, Committed committed = {});
 
     [[nodiscard]] QWidget* createEditor(QWidget* parent, QStyleOptionViewItem const& option,
                                         QModelIndex const& index) const override;
+    void setModelData(QWidget* editor, QAbstractItemModel* model, QModelIndex const& index) const override;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, QModelIndex const& index) const override;
+
+private:
+    Committed committed_;
 };

@@ -53,9 +53,9 @@ void WellComponentTable::OrderWellComponentInterval(QList<WellComponent>& compon
 
 void WellComponentTable::ParsePasteAction()
 {
-    auto const pasted = WellTablePaste::ReadComponents(GetClipboardText());
-    if (ConfirmPaste(*this, pasted, static_cast<qsizetype>(pasted.rows.size()),
-                     tr("No Component data found in pasted data. Check number format and try again"))) {
-        model_->AppendComponents(QList<WellComponent>(pasted.rows.cbegin(), pasted.rows.cend()));
-    }
+    AppendPasted(*this, WellTablePaste::ReadComponents(GetClipboardText()),
+                 tr("No Component data found in pasted data. Check number format and try again"),
+                 [this](auto const& rows) {
+                     model_->AppendComponents(QList<WellComponent>(rows.cbegin(), rows.cend()));
+                 });
 }

@@ -27,7 +27,7 @@
 // WellDetailsDialogApply.cpp.
 
 WellDetailsDialog::WellDetailsDialog(QWidget* parent, ProjectAccess& project)
-    : QDialog(parent),
+    : FormDialog(parent),
       project_(project),
       tabs_(new QTabWidget),
       survey_table_(new DirectionalSurveyTable),
@@ -58,10 +58,6 @@ WellDetailsDialog::WellDetailsDialog(QWidget* parent, ProjectAccess& project)
     connect(buttons, &QDialogButtonBox::rejected, this, &WellDetailsDialog::reject);
     connect(buttons->button(QDialogButtonBox::Apply), &QPushButton::clicked, this,
             &WellDetailsDialog::OnApply);
-    // Enter ends the edit of a cell; it must not end the dialog.
-    for (auto* button : buttons->buttons()) {
-        static_cast<QPushButton*>(button)->setAutoDefault(false);
-    }
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(unit);
     bottom->addStretch();

@@ -3,9 +3,8 @@
 
 #pragma once
 
+#include "well/FormDialog.h"
 #include "well/WellDetails.h"
-
-#include <QDialog>
 
 class DepthMarkerTable;
 class DirectionalSurveyTable;
@@ -23,7 +22,7 @@ class ZoneTable;
 /// The form for all that is known of the well besides its logs, a tab for each kind of data. Every table can
 /// be copied to and pasted from a spreadsheet. Nothing reaches the project until it is applied, and then only
 /// what was changed.
-class WellDetailsDialog : public QDialog
+class WellDetailsDialog : public FormDialog
 {
     Q_OBJECT
 public:
@@ -38,7 +37,6 @@ public:
     [[nodiscard]] static QString GeneratePasteFormatString(QString const& format);
 
     /// The well's name.
-    /// @throws std::invalid_argument when it is too long for a project file
     [[nodiscard]] QString GetMiscWellDetails() const;
     void SetMiscWellDetails(QString const& well_name);
 

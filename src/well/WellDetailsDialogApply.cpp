@@ -15,6 +15,7 @@
 #include "well/ZoneTable.h"
 
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTabWidget>
 
 #include <algorithm>
@@ -48,6 +49,10 @@ QList<WellComponent> Ordered(QList<WellComponent> components)
 
 WellDetails WellDetailsDialog::ReadForm()
 {
+    // An editor still open in a cell gives its text when it loses the focus.
+    if (QWidget* focus = focusWidget(); focus != nullptr && qobject_cast<QPushButton*>(focus) == nullptr) {
+        focus->clearFocus();
+    }
     // The pages in the order of their tabs; the one that throws is the one shown.
     int page = 0;
     try {
@@ -98,9 +103,7 @@ void WellDetailsDialog::Write(WellDetails const& details)
         project_.SetMarkersB(details.markers_b);
     }
     if (details.pipe_strings != project_.GetPipeStringData().GetPipeStringVector()) {
-        PipeStringData data;
-        data.SetPipeStringVector(details.pipe_strings);
-        project_.SetPipeStringData(data);
+        project_.SetPipeStringData(details.pipe_strings);
     }
     if (details.well_name != project_.GetWellName()) {
         project_.SetWellName(details.well_name);
@@ -111,9 +114,7 @@ void WellDetailsDialog::Write(WellDetails const& details)
     if (!details.pipes.isEmpty()) {
         std::vector<PipeString> converted;
         ConvertPipeListToPipeStringVector(details.pipes, converted);
-        PipeStringData data;
-        data.SetPipeStringVector(converted);
-        project_.SetPipeStringData(data);
+        project_.SetPipeStringData(converted);
     }
 }
 

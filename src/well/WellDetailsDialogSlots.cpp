@@ -152,7 +152,7 @@ void WellDetailsDialog::OnDeleteComponent()
 
 QString WellDetailsDialog::GetMiscWellDetails() const
 {
-    return NameEdit::GetCheckedText(*well_name_, tr("The name of the well is"));
+    return well_name_->text();
 }
 
 void WellDetailsDialog::SetMiscWellDetails(QString const& well_name)

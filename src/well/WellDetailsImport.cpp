@@ -5,16 +5,18 @@
 
 #include "app/kit/ProjectText.h"
 #include "model/ProjectAccess.h"
+#include "well/PastedRows.h"
 #include "well/WellDetailsImporter.h"
 
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 
 namespace {
 /// Each string is a tab of the well details.
-constexpr std::size_t MAXIMUM_STRINGS = 1000;
+constexpr qsizetype MAXIMUM_STRINGS = 1000;
 
 std::vector<DirectionalSurveyItem> Merge(std::vector<DirectionalSurveyItem> stations,
                                          std::vector<DirectionalSurveyItem> const& added)
@@ -24,9 +26,12 @@ std::vector<DirectionalSurveyItem> Merge(std::vector<DirectionalSurveyItem> stat
         return std::tuple(a.measured_depth, a.inclination, a.azimuth) <
                std::tuple(b.measured_depth, b.inclination, b.azimuth);
     };
-    stations.insert(stations.end(), added.begin(), added.end());
-    std::stable_sort(stations.begin(), stations.end(), by_all);
-    stations.erase(std::unique(stations.begin(), stations.end()), stations.end());
+    auto known = stations;
+    std::sort(known.begin(), known.end(), by_all);
+    std::copy_if(added.begin(), added.end(), std::back_inserter(stations),
+                 [&](DirectionalSurveyItem const& station) {
+                     return !std::binary_search(known.begin(), known.end(), station, by_all);
+                 });
     return stations;
 }
 
@@ -60,9 +65,7 @@ void WellDetailsImport::Apply(ProjectAccess& project, WellDetailsImporter const&
             strings = project.GetPipeStringData().GetPipeStringVector();
         }
         strings.insert(strings.end(), added.begin(), added.end());
-        PipeStringData data;
-        data.SetPipeStringVector(strings);
-        project.SetPipeStringData(data);
+        project.SetPipeStringData(strings);
     }
     if (auto const components = importer.GetMiscComponents(); choice.components && !components.isEmpty()) {
         project.SetComponents(choice.replace ? components : project.GetComponents() + components);
@@ -75,13 +78,30 @@ void WellDetailsImport::Apply(ProjectAccess& project, WellDetailsImporter const&
 QString WellDetailsImport::Check(WellDetailsImporter const& importer)
 {
     auto const pipe_strings = importer.GetPipeStringVector();
-    if (pipe_strings.size() > MAXIMUM_STRINGS) {
-        return QStringLiteral("The file holds %1 pipe strings, more than %2.")
-            .arg(pipe_strings.size())
-            .arg(MAXIMUM_STRINGS);
+    auto const perforations = importer.GetPerforaitons();
+    auto const components = importer.GetMiscComponents();
+    qsizetype longest_string = 0;
+    for (auto const& pipe_string : pipe_strings) {
+        longest_string = std::max(longest_string, static_cast<qsizetype>(pipe_string.size()));
+    }
+    struct Count
+    {
+        qsizetype count;
+        char const* name;
+        qsizetype maximum;
+    };
+    for (auto const& [count, name, maximum] : std::initializer_list<Count>{
+             {std::ssize(importer.GetInclinationSurvey().first), "stations", PasteReport::MAXIMUM_ROWS},
+             {perforations.size(), "perforations", PasteReport::MAXIMUM_ROWS},
+             {std::ssize(pipe_strings), "pipe strings", MAXIMUM_STRINGS},
+             {longest_string, "components in a pipe string", PasteReport::MAXIMUM_ROWS},
+             {components.size(), "components", PasteReport::MAXIMUM_ROWS}}) {
+        if (count > maximum) {
+            return QStringLiteral("The file holds %1 %2, more than %3.").arg(count).arg(name).arg(maximum);
+        }
     }
     QStringList texts{importer.GetWellname()};
-    for (auto const& zone : importer.GetPerforaitons()) {
+    for (auto const& zone : perforations) {
         texts << zone.GetDescription();
     }
     for (auto const& pipe_string : pipe_strings) {
@@ -90,13 +110,12 @@ QString WellDetailsImport::Check(WellDetailsImporter const& importer)
             texts << component.GetDescription();
         }
     }
-    for (auto const& component : importer.GetMiscComponents()) {
+    for (auto const& component : components) {
         texts << component.description;
     }
     for (auto const& text : texts) {
         if (!Quorrel::FitsProjectFile(text)) {
-            return Quorrel::CheckProjectText(
-                QStringLiteral("The text beginning with \"%1...\" is").arg(text.left(40)), text);
+            return Quorrel::CheckProjectText(text);
         }
     }
     return {};

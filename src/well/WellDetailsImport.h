@@ -25,7 +25,7 @@ namespace WellDetailsImport {
 /// file has one.
 void Apply(ProjectAccess& project, WellDetailsImporter const& importer, WellDetailsChoice const& choice);
 
-/// A message when the file holds what no well and no project file can: a text too long, or more pipe
-/// strings than the well details can show. Otherwise empty.
+/// A message when the file holds what no well and no project file can: a text too long, or more of
+/// something than the well details can show. Otherwise empty.
 [[nodiscard]] QString Check(WellDetailsImporter const& importer);
 } // namespace WellDetailsImport

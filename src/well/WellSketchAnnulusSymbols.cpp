@@ -30,16 +30,20 @@ CalculatedPipeComponent const* WellSketchRenderer::FindTubingAbove(WellComponent
     return pipe_strings_.FindTubingComponentAtDepth(component.depth.lower - TUBING_LOOKUP_METRES);
 }
 
+CalculatedPipeComponent const* WellSketchRenderer::FindCasingAbove(WellComponent const& component) const
+{
+    PipeString const* const tubing = pipe_strings_.FindTubing();
+    return tubing != nullptr ? pipe_strings_.FindOutsideComponentAtDepth(*tubing, component.depth.lower -
+                                                                                      TUBING_LOOKUP_METRES)
+                             : nullptr;
+}
+
 void WellSketchRenderer::DrawPacker(QPainter& painter, WellComponent const& component,
                                     Interval const& interval, ColorScheme const& scheme)
 {
     auto const* const tubing = FindTubingAbove(component);
-    if (tubing == nullptr) {
-        return;
-    }
-    auto const* const casing = pipe_strings_.FindOutsideComponentAtDepth(
-        *pipe_strings_.FindTubing(), component.depth.lower - TUBING_LOOKUP_METRES);
-    if (casing == nullptr) {
+    auto const* const casing = FindCasingAbove(component);
+    if (tubing == nullptr || casing == nullptr) {
         return;
     }
     Geometry const g = ComponentCalculations(component, casing->GetNonNullId(), width_, height_, interval);
@@ -147,6 +151,8 @@ WellSketchRenderer::Geometry WellSketchRenderer::DrawPocket(QPainter& painter, W
     auto const* const at_depth = pipe_strings_.FindTubingComponentAtDepth(component.depth.Center());
     if (at_depth != nullptr && at_depth->GetNonNullOd() > above->GetNonNullOd()) {
         width = Pixels(at_depth->GetNonNullOd()) * 0.5 - g.half_width;
+    } else if (auto const* const casing = FindCasingAbove(component)) {
+        width = std::clamp(Pixels(casing->GetNonNullId()) * 0.5 - g.half_width, 0.0, width);
     }
     double const wall = g.center + side * g.half_width;
     double const face = wall + side * width;
@@ -178,8 +184,7 @@ void WellSketchRenderer::DrawPDHG(QPainter& painter, WellComponent const& compon
         return;
     }
     double const od = tubing->GetNonNullOd();
-    auto const* const casing = pipe_strings_.FindOutsideComponentAtDepth(
-        *pipe_strings_.FindTubing(), component.depth.lower - TUBING_LOOKUP_METRES);
+    auto const* const casing = FindCasingAbove(component);
     double const reach = casing != nullptr ? (od + 0.8 * (casing->GetNonNullId() - od)) / 2 : (od + 1) / 2;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

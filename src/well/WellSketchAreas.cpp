@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 QColor const formation_color(250, 200, 0);
@@ -43,6 +44,22 @@ int LinerGapPixels(double dpi_x)
 bool IsFinite(Interval const& interval)
 {
     return std::isfinite(interval.lower) && std::isfinite(interval.upper);
+}
+
+/// The same wall in fewer pieces: joints of the same diameters, one below the other, as one.
+PipeStringData::ComponentList JoinEqual(PipeStringData::ComponentList path)
+{
+    for (auto joint = path.begin(); joint != path.end();) {
+        auto const next = std::next(joint);
+        if (next != path.end() && next->GetMinDepth() == joint->GetMaxDepth() &&
+            next->GetNonNullOd() == joint->GetNonNullOd() && next->GetNonNullId() == joint->GetNonNullId()) {
+            joint->SetMaxDepth(next->GetMaxDepth());
+            path.erase(next);
+        } else {
+            joint = next;
+        }
+    }
+    return path;
 }
 } // namespace
 
@@ -80,7 +97,11 @@ void WellSketchRenderer::DrawAreaBetweenPipeStringAndOutside(QPainter& painter, 
     PipeString const* const outside = pipe_strings_.FindOutsidePipeAtDepth(string, depth.lower);
     ComponentList const outer =
         outside != nullptr ? pipe_strings_.TraceDownwards(*outside, depth.lower) : ComponentList();
-    ComponentList const inner(string.GetComponents().cbegin(), string.GetComponents().cend());
+    ComponentList inner;
+    std::copy_if(string.GetComponents().cbegin(), string.GetComponents().cend(), std::back_inserter(inner),
+                 [&](CalculatedPipeComponent const& joint) {
+                     return joint.GetMaxDepth() > depth.lower && joint.GetMinDepth() < depth.upper;
+                 });
     Outlines const outlines = FillAnnulusArea(painter, inner, outer, interval, depth, dpi_x, brush);
     CreateMirroredPolygonBoundingBox(description, depth, outlines);
 }
@@ -136,7 +157,7 @@ void WellSketchRenderer::DrawInnerArea(QPainter& painter, WellComponent const& c
     if (pipe == nullptr || start == -1.0) {
         return;
     }
-    ComponentList const path = pipe_strings_.TraceDownwards(*pipe, start);
+    ComponentList const path = JoinEqual(pipe_strings_.TraceDownwards(*pipe, start));
     if (path.empty()) {
         return;
     }
@@ -181,8 +202,8 @@ void WellSketchRenderer::DrawFormation(QPainter& painter, WellComponent const& c
     Outlines outlines;
     double bottom = component.depth.lower;
     for (CalculatedPipeComponent const& outer : pipe_strings_.TraceOuterPipeDownwards(component.depth)) {
-        // The last pipe of the path may reach deeper than the formation.
-        double const next = std::min(outer.GetMaxDepth(), component.depth.upper);
+        // The pipe in which the formation begins and ends is followed to its own foot.
+        double const next = outer.GetMaxDepth();
         double const wall = Center() - Pixels(outer.GetNonNullOd()) * 0.5 - gap;
         FillMirrored(painter, clearance, wall, Row(bottom, interval), Row(next, interval), brush, outlines,
                      1);

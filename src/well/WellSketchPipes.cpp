@@ -5,6 +5,7 @@
 
 #include "well/WellSketchRenderer.h"
 
+#include "display/ClippedDrawing.h"
 #include "display/DepthGeometry.h"
 #include "well/SketchDrawing.h"
 
@@ -102,9 +103,8 @@ void WellSketchRenderer::DrawWallRun(QPainter& painter, WallRun const& run, bool
         auto const fill = [&](double x1, double x2, double y1, double y2, QColor const& color) {
             FillBetween(painter, c + side * x1, c + side * x2, y1, y2, color);
         };
-        fill(run.inner, run.outer, top, bottom, scheme.steel);
-        fill(run.inner, run.inner + OUTLINE, top, bottom, scheme.lines);
-        fill(run.outer - OUTLINE, run.outer, top, bottom, scheme.lines);
+        fill(run.inner, run.outer, top, bottom, scheme.lines);
+        fill(run.inner + OUTLINE, run.outer - OUTLINE, top, bottom, scheme.steel);
         if (run.previous_outer > 0) {
             // The shoulders of a change of diameter.
             fill(run.previous_outer, run.outer, top, top + OUTLINE, scheme.lines);
@@ -127,7 +127,6 @@ void WellSketchRenderer::DrawCasingEnds(QPainter& painter, PipeString const& str
         return;
     }
     double const first_outer = Pixels(string.GetComponents().front().GetNonNullOd()) * 0.5;
-    double const last_outer = Pixels(string.GetComponents().back().GetNonNullOd()) * 0.5;
     PipeString const* const outside = pipe_strings_.FindOutsidePipeAtDepth(string, depth.lower);
     CalculatedPipeComponent const* const at_top =
         outside != nullptr ? outside->FindComponentAtDepth(depth.lower) : nullptr;
@@ -137,12 +136,13 @@ void WellSketchRenderer::DrawCasingEnds(QPainter& painter, PipeString const& str
     }
     if (outside != nullptr && depth.IsInside(outside->GetDepthInterval())) {
         if (auto const* const at_foot = outside->FindComponentAtDepth(depth.upper)) {
+            double const last_outer = Pixels(string.GetComponents().back().GetNonNullOd()) * 0.5;
             DrawCasingHanger(painter, Center(), last_outer, Pixels(at_foot->GetNonNullId()) * 0.5,
                              Row(depth.upper, interval) - HANGER_HEIGHT, scheme);
         }
         return;
     }
-    DrawCasingShoe(painter, Center(), last_outer, Row(depth.upper, interval), scheme);
+    DrawCasingShoe(painter, string, interval, scheme);
 }
 
 void WellSketchRenderer::DrawCasingHanger(QPainter& painter, double center, double outer_radius,
@@ -166,21 +166,37 @@ void WellSketchRenderer::DrawCasingHanger(QPainter& painter, double center, doub
     painter.restore();
 }
 
-void WellSketchRenderer::DrawCasingShoe(QPainter& painter, double center, double outer_radius, double y,
+void WellSketchRenderer::DrawCasingShoe(QPainter& painter, PipeString const& string, Interval const& interval,
                                         ColorScheme const& scheme)
 {
     double const size = Quorrel::TruncateToInt(SHOE_SHARE * height_);
-    if (y - size > height_ || y < 0) {
+    double const foot = Row(string.GetDepthInterval().upper, interval);
+    if (foot - size > height_ || foot < 0) {
         return;
+    }
+    // A triangle that lies against the wall, also where that steps back above a wider last joint. Radii and
+    // rows from the foot up.
+    auto const& components = string.GetComponents();
+    double const last_outer = Pixels(components.back().GetNonNullOd()) * 0.5;
+    std::vector<QPointF> edge{{last_outer + size * SHOE_WIDTH_SHARE, foot + OUTLINE},
+                              {last_outer, foot + OUTLINE}};
+    double row = foot;
+    for (auto joint = components.crbegin(); joint != components.crend() && row > foot - size; ++joint) {
+        double const outer = Pixels(joint->GetNonNullOd()) * 0.5;
+        edge.emplace_back(outer, row);
+        row = std::max(Row(joint->GetMinDepth(), interval), foot - size);
+        edge.emplace_back(outer, row);
     }
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(scheme.lines);
     OnBothSides([&](double side) {
-        double const wall = center + side * outer_radius;
-        Quorrel::DrawShape(painter, {QPointF(wall, y - size), QPointF(wall, y + OUTLINE),
-                                     QPointF(wall + side * size * SHOE_WIDTH_SHARE, y + OUTLINE)});
+        std::vector<QPointF> corners = edge;
+        for (QPointF& corner : corners) {
+            corner.setX(Center() + side * corner.x());
+        }
+        Quorrel::DrawPolygonClipped(painter, corners.data(), corners.size());
     });
     painter.restore();
 }

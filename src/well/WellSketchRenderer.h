@@ -126,7 +126,7 @@ private:
                         ColorScheme const& scheme);
     void DrawCasingHanger(QPainter& painter, double center, double outer_radius, double inner_radius,
                           double y, ColorScheme const& scheme);
-    void DrawCasingShoe(QPainter& painter, double center, double outer_radius, double y,
+    void DrawCasingShoe(QPainter& painter, PipeString const& string, Interval const& interval,
                         ColorScheme const& scheme);
     void DrawOuterCasingCement(QPainter& painter, PipeString const& string, Interval const& interval,
                                double dpi_x, ColorScheme const& scheme);
@@ -191,6 +191,8 @@ private:
                         double dpi_x, double side, ColorScheme const& scheme);
     /// The tubing's component just above the component's top; null when there is none.
     [[nodiscard]] CalculatedPipeComponent const* FindTubingAbove(WellComponent const& component) const;
+    /// What is around it there; null when nothing is.
+    [[nodiscard]] CalculatedPipeComponent const* FindCasingAbove(WellComponent const& component) const;
 
     // hit areas
     void CreatePipeBoundingBox(QString const& prefix, CalculatedPipeComponent const& component, double center,

@@ -63,15 +63,16 @@ void WellSketchRenderer::DrawFish(QPainter& painter, WellComponent const& compon
         return;
     }
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
-    // Head down, the tail uppermost with its fins spread over the pipes.
-    double const fins = 0.7 * Center();
+    // Head down; the tail is as wide as its fins and meets the body in the bore.
+    double const fin = 0.7 * Center() / 2;
     double const neck = g.top + g.height / 3;
+    double const notch = g.top + g.height / 9;
+    double const belly = neck + (g.Bottom() - neck) * 0.4;
     SymbolPainter const symbol(painter, Qt::green);
-    Quorrel::DrawShape(
-        painter, {QPointF(g.center - fins, g.top), QPointF(g.center + fins, g.top), QPointF(g.center, neck)});
-    Quorrel::DrawShape(painter,
-                       {QPointF(g.center, neck), QPointF(g.right, neck + (g.Bottom() - neck) * 0.4),
-                        QPointF(g.center, g.Bottom()), QPointF(g.left, neck + (g.Bottom() - neck) * 0.4)});
+    Quorrel::DrawShape(painter, {QPointF(g.center, neck), QPointF(g.center - fin, g.top),
+                                 QPointF(g.center, notch), QPointF(g.center + fin, g.top)});
+    Quorrel::DrawShape(painter, {QPointF(g.center, neck), QPointF(g.right, belly),
+                                 QPointF(g.center, g.Bottom()), QPointF(g.left, belly)});
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 

@@ -124,9 +124,13 @@ SketchItemText const* WellSketchView::GetItemText() const
 void WellSketchView::mouseMoveEvent(QMouseEvent* event)
 {
     if (!parameters_->GetVerticalZoomChecked() && !parameters_->GetInterpretationZonesDefinitionChecked()) {
+        SketchItemText const* const before = GetItemText();
         FindItem(event->position());
+        if (GetItemText() != before) {
+            update();
+        }
     }
-    BaseViewWidget::mouseMoveEvent(event); // repaints
+    BaseViewWidget::mouseMoveEvent(event);
 }
 
 void WellSketchView::mousePressEvent(QMouseEvent* event)
@@ -153,6 +157,9 @@ void WellSketchView::mouseReleaseEvent(QMouseEvent* event)
 
 void WellSketchView::leaveEvent(QEvent* event)
 {
-    ClearItem();
+    if (GetItemText() != nullptr) {
+        ClearItem();
+        update();
+    }
     BaseViewWidget::leaveEvent(event);
 }

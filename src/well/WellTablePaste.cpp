@@ -3,6 +3,7 @@
 
 #include "well/WellTablePaste.h"
 
+#include "app/kit/ProjectText.h"
 #include "app/kit/Quorrel.h"
 #include "well/TableNumber.h"
 
@@ -17,6 +18,17 @@ using TableNumber::ParseDepth;
 using TableNumber::Shorten;
 
 namespace {
+/// A message when a column holds more than a project file does; otherwise empty.
+QString CheckLength(QRegularExpressionMatch const& line)
+{
+    for (QString const& column : line.capturedTexts().mid(1)) {
+        if (!Quorrel::FitsProjectFile(column)) {
+            return Quorrel::CheckProjectText(column);
+        }
+    }
+    return {};
+}
+
 /// Calls `read(match, rows)` for each line that matches.
 template <class Row, class ReadLine>
 PastedRows<Row> ReadRows(QString const& text, QString const& pattern, ReadLine const& read)
@@ -37,7 +49,11 @@ PastedRows<Row> ReadRows(QString const& text, QString const& pattern, ReadLine c
         }
         if (auto const match = expression.match(line); match.hasMatch()) {
             result.matched = true;
-            read(match, result);
+            if (auto const error = CheckLength(match); error.isEmpty()) {
+                read(match, result);
+            } else {
+                result.AddError(error);
+            }
         }
     }
     return result;
@@ -109,7 +125,7 @@ PastedRows<DepthMarker> WellTablePaste::ReadMarkers(QString const& text)
         if (auto const depth = ParseDepth(line.captured(1))) {
             result.rows.emplace_back(*depth, line.captured(2));
         } else {
-            result.AddError(Shorten(line.captured(1)));
+            result.AddError("Paste Error - Unable to convert to depth: " + Shorten(line.captured(1)));
         }
     };
     return ReadRows<DepthMarker>(text, "^([^\t]*)(?:\t([^\t]*))?", read);

@@ -13,14 +13,14 @@
 
 /// Reads clipboard text into rows of the well tables: a line per row, columns between tabs, numbers in the
 /// settings' format, depths in the settings' unit. Blank lines and lines of another form are skipped; a line
-/// of the right form whose numbers cannot be read gives a message instead of a row. Time is linear in the
-/// text.
+/// of the right form whose numbers cannot be read or whose text is too long for a project file gives a
+/// message instead of a row. Time is linear in the text.
 namespace WellTablePaste {
 /// MD, inclination, azimuth.
 [[nodiscard]] PastedRows<DirectionalSurveyItem> ReadSurvey(QString const& text);
 /// Top, bottom and, where given, description and "#rrggbb".
 [[nodiscard]] PastedRows<Zone> ReadZones(QString const& text, QColor const& default_color);
-/// Depth and, where given, text. An error is only the text that is no depth.
+/// Depth and, where given, text.
 [[nodiscard]] PastedRows<DepthMarker> ReadMarkers(QString const& text);
 /// From, to, OD, ID, weight, "yes" or "no" for tubing and, where given, description.
 [[nodiscard]] PastedRows<Pipe> ReadPipes(QString const& text);

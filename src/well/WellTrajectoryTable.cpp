@@ -11,5 +11,6 @@ WellTrajectoryTable::WellTrajectoryTable(std::vector<WellTrajectoryItem> const& 
     : BaseModelTable(new WellTrajectoryModel(trajectory), parent)
 {
     horizontalHeader()->setStretchLastSection(false);
-    horizontalHeader()->resizeSection(7, 150);
+    horizontalHeader()->setMinimumSectionSize(95);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }

@@ -30,7 +30,8 @@ QList<Zone> ZoneModel::GetZones() const
     QList<Zone> zones;
     zones.reserve(rowCount());
     for (auto const& row : GetRows()) {
-        zones.emplace_back(Interval(row[0].number, row[1].number), row[3].text, row[COLOR_COLUMN].color);
+        zones.emplace_back(Interval(row[0].number, row[1].number), row[DESCRIPTION_COLUMN].text,
+                           row[COLOR_COLUMN].color);
     }
     return zones;
 }

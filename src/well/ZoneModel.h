@@ -11,6 +11,7 @@ class ZoneModel : public BaseTableModel
 {
     Q_OBJECT
 public:
+    static constexpr int DESCRIPTION_COLUMN = 3;
     static constexpr int COLOR_COLUMN = 4;
 
     explicit ZoneModel(QObject* parent = nullptr);

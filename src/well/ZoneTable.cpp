@@ -14,7 +14,8 @@ ZoneTable::ZoneTable(QWidget* parent) : ZoneTable(new ZoneModel, parent) {}
 ZoneTable::ZoneTable(ZoneModel* model, QWidget* parent) : BaseModelTable(model, parent), model_(model)
 {
     setItemDelegateForColumn(ZoneModel::COLOR_COLUMN, new ColorPickerDelegate(this));
-    horizontalHeader()->resizeSection(3, 260);
+    StretchColumn(*this, ZoneModel::DESCRIPTION_COLUMN);
+    horizontalHeader()->resizeSection(ZoneModel::COLOR_COLUMN, 120);
 }
 
 void ZoneTable::InitializeTable(QList<Zone> const& zones)
@@ -52,9 +53,7 @@ void ZoneTable::OrderZoneInterval(QList<Zone>& zones)
 
 void ZoneTable::ParsePasteAction()
 {
-    auto const pasted = WellTablePaste::ReadZones(GetClipboardText(), default_color_);
-    if (ConfirmPaste(*this, pasted, static_cast<qsizetype>(pasted.rows.size()),
-                     tr("No Zone/Perf data found in pasted data. Check number format and try again"))) {
-        model_->AppendZones(QList<Zone>(pasted.rows.cbegin(), pasted.rows.cend()));
-    }
+    AppendPasted(*this, WellTablePaste::ReadZones(GetClipboardText(), default_color_),
+                 tr("No Zone/Perf data found in pasted data. Check number format and try again"),
+                 [this](auto const& rows) { model_->AppendZones(QList<Zone>(rows.cbegin(), rows.cend())); });
 }

@@ -185,10 +185,19 @@ bool ZoneView::IsSelecting() const
     return parameters_->GetVerticalZoomChecked() || parameters_->GetInterpretationZonesDefinitionChecked();
 }
 
+void ZoneView::SetMouse(QPoint mouse)
+{
+    ZoneBoundingBox const* const before = FineZoneBoundingBox(mouse_.x(), mouse_.y());
+    mouse_ = mouse;
+    if (FineZoneBoundingBox(mouse_.x(), mouse_.y()) != before) {
+        update();
+    }
+}
+
 void ZoneView::mouseMoveEvent(QMouseEvent* event)
 {
-    mouse_ = IsSelecting() ? QPoint(-1, -1) : event->position().toPoint();
-    BaseViewWidget::mouseMoveEvent(event); // repaints
+    SetMouse(IsSelecting() ? QPoint(-1, -1) : event->position().toPoint());
+    BaseViewWidget::mouseMoveEvent(event);
 }
 
 void ZoneView::mousePressEvent(QMouseEvent* event)
@@ -218,6 +227,6 @@ void ZoneView::mouseReleaseEvent(QMouseEvent* event)
 
 void ZoneView::leaveEvent(QEvent* event)
 {
-    mouse_ = QPoint(-1, -1);
+    SetMouse({-1, -1});
     BaseViewWidget::leaveEvent(event);
 }

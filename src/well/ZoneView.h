@@ -66,6 +66,8 @@ private:
     [[nodiscard]] static ZoneBoundingBox const*
     FindZoneBoundingBoxAtY(std::vector<ZoneBoundingBox> const& column, int y);
     [[nodiscard]] bool IsSelecting() const;
+    /// Repaints when another zone, or none, is then under the mouse.
+    void SetMouse(QPoint mouse);
 
     QList<Zone> const& perforation_zones_;
     QList<ZoneTrack> const& zone_tracks_;

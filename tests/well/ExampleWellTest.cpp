@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Quorrel authors
 // SPDX-License-Identifier: MIT
 
-#include "app/kit/SettingsSingleton.h"
+#include "support/NumberFormats.h"
 #include "well/DeviationText.h"
 #include "well/DirectionalSurveyData.h"
 #include "well/PipeStringData.h"
@@ -13,8 +13,7 @@
 
 TEST(ExampleWell, IsAsItsReadmeSays)
 {
-    SettingsSingleton::Instance().SetSeparatorSelection(US);
-    SettingsSingleton::Instance().SetMetricDepth(true);
+    NumberFormatScope const scope;
     QString const folder = QUORREL_TEST_DATA "/../../examples/";
     WellDetailsImporter const importer(folder + "demo-well.json");
     ASSERT_EQ(importer.GetError(), "");

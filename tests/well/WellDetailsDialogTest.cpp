@@ -8,9 +8,10 @@
 #include "support/NumberFormats.h"
 #include "support/TestFiles.h"
 #include "well/SurveyImporter.h"
-#include "well/WellTrajectoryDialog.h"
 
+#include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -18,6 +19,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTableWidget>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -39,10 +41,8 @@ void FillProject(ProjectAccess& project)
                       {PipeComponent(9.625F, -999.25F, 53.5F, 1000.0 / 7, "joint"),
                        PipeComponent(-999.25F, -999.25F, 0, 1.0 / 7, "shoe")});
     casing.SetOuterCementData(1000.0 / 3, 100.0 / 3, "G");
-    PipeStringData pipes;
-    pipes.SetPipeStringVector(
+    project.SetPipeStringData(
         {casing, PipeString("tubing", 400, true, {PipeComponent(4.5F, 3.9F, 12, 50, "j")})});
-    project.SetPipeStringData(pipes);
     project.SetComponents({WellComponent({20.0 / 3, 10.0 / 3}, "main", WellComponentType::ProductionPacker)});
 }
 
@@ -74,41 +74,42 @@ protected:
     /// Writes that applying takes.
     int CountWrites()
     {
-        QSignalSpy const writes(&project_.GetDataContainerWrapper(),
-                                &DataContainerWrapper::DataContainerWriteAccessRequested_Signal);
+        writes_.clear();
         EXPECT_TRUE(dialog_->ApplyData());
-        return static_cast<int>(writes.count());
+        return static_cast<int>(writes_.count());
+    }
+    /// A field or table on the page of a zone track or pipe string.
+    template <class Widget>
+    Widget* FindOnPage(QString const& tabs, int page, QString const& name = {})
+    {
+        return Find<QTabWidget>(tabs)->widget(page)->findChild<Widget*>(name);
     }
 
     NumberFormatScope scope_{{US, false}};
     ProjectAccess project_;
+    QSignalSpy writes_{&project_.GetDataContainerWrapper(),
+                       &DataContainerWrapper::DataContainerWriteAccessRequested_Signal};
     std::unique_ptr<WellDetailsDialog> dialog_;
 };
 } // namespace
 
-TEST_F(WellDetailsDialogTest, HasATabForEachKindOfData)
+TEST_F(WellDetailsDialogTest, HasATabForEachKindOfDataAndTellsItsPasteFormat)
 {
     auto const* tabs = Find<QTabWidget>("WellDetailsTabs");
     QStringList titles;
     for (int i = 0; i < tabs->count(); ++i) {
         titles << tabs->tabText(i);
     }
-    EXPECT_EQ(titles, QStringList({"Survey", "Perfos", "Zones", "Markers A", "Markers B", "Pipes",
-                                   "Pipe Strings", "Components", "Misc"}));
+    EXPECT_EQ(titles.join('|'), "Survey|Perfos|Zones|Markers A|Markers B|Pipes|Pipe Strings|Components|Misc");
     EXPECT_EQ(tabs->widget(3)->findChild<QLabel*>("PasteFormat")->text(),
               "Paste Format: 12,345.67 <TAB> Description");
-}
 
-TEST_F(WellDetailsDialogTest, TellsThePasteFormat)
-{
     auto const& format = WellDetailsDialog::GeneratePasteFormatString;
     EXPECT_EQ(format("FTFTDTC"),
               "12,345.67 <TAB> 12,345.67 <TAB> Description <TAB>  <Hex-Color, eg. #ffffff> ");
-    EXPECT_EQ(format("FTFTITD"), "12,345.67 <TAB> 12,345.67 <TAB> 12 <TAB> Description");
     NumberFormatScope::Set({International, true});
     EXPECT_EQ(format("fTS<\"yes\"/\"no\">TF"), "4,500 <TAB> <\"yes\"/\"no\"> <TAB> 12.345,67");
     EXPECT_EQ(format("DxD"), "DescriptionERRORDescription");
-    EXPECT_EQ(format("S"), "ERROR");
     EXPECT_EQ(format("S<open"), "ERRORERRORERRORERRORERRORERROR");
 }
 
@@ -116,15 +117,10 @@ TEST_F(WellDetailsDialogTest, WritesNothingWhenNothingChanged)
 {
     for (auto const& format : NumberFormat::All()) {
         NumberFormatScope::Set(format);
-        ProjectAccess project;
-        FillProject(project);
-        WellDetailsDialog dialog(nullptr, project);
-        QSignalSpy const writes(&project.GetDataContainerWrapper(),
-                                &DataContainerWrapper::DataContainerWriteAccessRequested_Signal);
-        QSignalSpy const redraws(&dialog, &WellDetailsDialog::UpdateColumnWindow_Signal);
-        EXPECT_TRUE(dialog.ApplyData());
-        EXPECT_TRUE(dialog.ApplyData()) << "after the form was filled anew";
-        EXPECT_EQ(writes.count(), 0);
+        Open();
+        QSignalSpy const redraws(dialog_.get(), &WellDetailsDialog::UpdateColumnWindow_Signal);
+        EXPECT_EQ(CountWrites(), 0);
+        EXPECT_EQ(CountWrites(), 0) << "after the form was filled anew";
         EXPECT_EQ(redraws.count(), 2);
     }
 }
@@ -136,7 +132,6 @@ TEST_F(WellDetailsDialogTest, WritesOnlyWhatChanged)
     EXPECT_EQ(
         project_.GetDirectionalSurveyVector(),
         std::vector<DirectionalSurveyItem>({{0, 0, 0}, {1000.0F / 3, 10.123F, 20.456F}, {500, 45, 22}}));
-    EXPECT_EQ(project_.GetDirectionalSurveyTieInData().tvd, 1.0 / 3);
     Find<QLineEdit>("TieInTvd")->setText("10");
     EXPECT_EQ(CountWrites(), 1);
     EXPECT_EQ(
@@ -163,10 +158,7 @@ TEST_F(WellDetailsDialogTest, WritesOnlyWhatChanged)
     EXPECT_EQ(CountWrites(), 1);
     EXPECT_EQ(project_.GetWellName(), "Other");
 
-    Find<QTabWidget>("ZoneTracks")
-        ->widget(1)
-        ->findChild<QLineEdit*>("ZoneTrackName")
-        ->setText("Full & round");
+    FindOnPage<QLineEdit>("ZoneTracks", 1, "ZoneTrackName")->setText("Full & round");
     EXPECT_EQ(Find<QTabWidget>("ZoneTracks")->tabText(1), "Full && round");
     EXPECT_EQ(CountWrites(), 1);
     EXPECT_EQ(project_.GetZoneTracks()[1].GetName(), "Full & round");
@@ -175,18 +167,16 @@ TEST_F(WellDetailsDialogTest, WritesOnlyWhatChanged)
 TEST_F(WellDetailsDialogTest, PipeStringsAreBuiltFromTheirFields)
 {
     auto* tabs = Find<QTabWidget>("PipeStrings");
-    ASSERT_EQ(tabs->count(), 2);
     EXPECT_EQ(tabs->tabText(0), "tubing") << "in the order of the data";
-    auto* casing = tabs->widget(1);
+    auto const field = [this](char const* name) { return FindOnPage<QLineEdit>("PipeStrings", 1, name); };
     // 1000/3 m and 100/3 m, in ascending order.
-    EXPECT_EQ(casing->findChild<QLineEdit*>("CementTop")->text(), "109.36");
-    EXPECT_EQ(casing->findChild<QLineEdit*>("CementBottom")->text(), "1,093.61");
-    auto* table = casing->findChild<QTableView*>();
-    casing->findChild<QLineEdit*>("SetDepth")->setText("1,000");
-    EXPECT_EQ(table->model()->index(1, 6).data().toString(), "1,000.00");
-    casing->findChild<QLineEdit*>("CementBottom")->setText("50");
-    casing->findChild<QLineEdit*>("CementDescription")->setText("H");
-    casing->findChild<QCheckBox*>()->setChecked(true);
+    EXPECT_EQ(field("CementTop")->text(), "109.36");
+    EXPECT_EQ(field("CementBottom")->text(), "1,093.61");
+    field("SetDepth")->setText("1,000");
+    EXPECT_EQ(FindOnPage<QTableView>("PipeStrings", 1)->model()->index(1, 6).data().toString(), "1,000.00");
+    field("CementBottom")->setText("50");
+    field("CementDescription")->setText("H");
+    FindOnPage<QCheckBox>("PipeStrings", 1)->setChecked(true);
     EXPECT_EQ(CountWrites(), 1);
     auto const& strings = project_.GetPipeStringData().GetPipeStringVector();
     auto const changed = std::find_if(strings.begin(), strings.end(),
@@ -202,15 +192,7 @@ TEST_F(WellDetailsDialogTest, PipeStringsAreBuiltFromTheirFields)
 TEST_F(WellDetailsDialogTest, WrongInputKeepsTheDialogOpenAndShowsItsTab)
 {
     QString const number_error = "Error in number format: Unable to convert to number. Number-text: ";
-    struct Case
-    {
-        std::function<void()> spoil;
-        int tab;
-        QString message;
-    };
-    QString const too_long =
-        " too long for a project file: 65536 bytes of at most 65535. Please shorten the text.";
-    std::vector<Case> const cases = {
+    std::vector<std::tuple<std::function<void()>, int, QString>> const cases = {
         {[&] { SetCell("SurveyTable", 1, 0, "deep"); }, 0, number_error + "deep \n"},
         {[&] { Find<QLineEdit>("TieInEw")->setText("east"); }, 0, number_error + "east "},
         {[&] { SetCell("PerfoTable", 0, 1, "p"); }, 1, "Row 1, \"Bottom\": " + number_error + "p "},
@@ -220,20 +202,20 @@ TEST_F(WellDetailsDialogTest, WrongInputKeepsTheDialogOpenAndShowsItsTab)
              SetCell("PipeTable", 0, 2, "wide");
          },
          5, number_error + "wide \n"},
-        {[&] { Find<QTabWidget>("PipeStrings")->widget(1)->findChild<QLineEdit*>("SetDepth")->clear(); }, 6,
-         number_error},
-        {[&] { Find<QTabWidget>("PipeStrings")->widget(1)->findChild<QLineEdit*>("CementTop")->clear(); }, 6,
+        {[&] { FindOnPage<QLineEdit>("PipeStrings", 1, "SetDepth")->clear(); }, 6, number_error},
+        {[&] { FindOnPage<QLineEdit>("PipeStrings", 1, "CementTop")->clear(); }, 6,
          "Pipe string \"casing\": the outside cement needs its top and bottom depth."},
-        {[&] { SetCell("ComponentTable", 0, 0, "c"); }, 7, "Row 1, \"Top\": " + number_error + "c "},
-        {[&] { Find<QLineEdit>("WellName")->setText(QString("x").repeated(65536)); }, 8,
-         "The name of the well is" + too_long},
         {[&] {
-             Find<QTabWidget>("ZoneTracks")
-                 ->widget(0)
-                 ->findChild<QLineEdit*>()
-                 ->setText(QString("x").repeated(65536));
+             auto* table = Find<QTableView>("ComponentTable");
+             Find<QTabWidget>("WellDetailsTabs")->setCurrentIndex(7);
+             dialog_->show();
+             dialog_->activateWindow();
+             ASSERT_TRUE(QTest::qWaitForWindowActive(dialog_.get()));
+             table->edit(table->model()->index(0, 0));
+             table->findChild<QLineEdit*>()->setText("c"); // the editor stays open
+             Find<QTabWidget>("WellDetailsTabs")->setCurrentIndex(7);
          },
-         2, "The name of the zone track is" + too_long},
+         7, "Row 1, \"Top\": " + number_error + "c "},
     };
     for (auto const& [spoil, tab, message] : cases) {
         SCOPED_TRACE(message.toStdString());
@@ -241,16 +223,62 @@ TEST_F(WellDetailsDialogTest, WrongInputKeepsTheDialogOpenAndShowsItsTab)
         dialog_->SetMiscWellDetails("changed");
         spoil();
         DialogAnswer const dialogs;
-        QSignalSpy const writes(&project_.GetDataContainerWrapper(),
-                                &DataContainerWrapper::DataContainerWriteAccessRequested_Signal);
+        writes_.clear();
         QSignalSpy const closed(dialog_.get(), &QDialog::finished);
         dialog_->accept();
         ASSERT_EQ(dialogs.GetMessages().size(), 1);
         EXPECT_TRUE(dialogs.GetMessages()[0].startsWith(message)) << dialogs.GetMessages()[0].toStdString();
-        EXPECT_EQ(writes.count(), 0) << "not even the well's name";
+        EXPECT_EQ(writes_.count(), 0) << "not even the well's name";
         EXPECT_EQ(closed.count(), 0);
         EXPECT_EQ(Find<QTabWidget>("WellDetailsTabs")->currentIndex(), tab);
     }
+}
+
+TEST_F(WellDetailsDialogTest, ATextTooLongIsRefusedWhereItIsEntered)
+{
+    dialog_->show();
+    auto const paste = [&](QLineEdit* edit) {
+        DialogAnswer const dialogs;
+        QString const before = edit->text();
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(edit->text(), before);
+        EXPECT_EQ(dialogs.GetMessages(),
+                  QStringList{"The text is too long for a project file: 65536 bytes of at most 65535. Please "
+                              "shorten the text."})
+            << edit->objectName().toStdString();
+    };
+    // The umlaut takes two bytes.
+    QApplication::clipboard()->setText(QString("x").repeated(65534) + "ü");
+    for (auto const* name : {"WellName", "ZoneTrackName", "PipeStringName", "CementDescription"}) {
+        paste(Find<QLineEdit>(name));
+    }
+    for (auto const* name : {"MarkersATable", "PipeTable"}) {
+        auto* table = Find<QTableView>(name);
+        Click("AddPipe");
+        table->edit(table->model()->index(0, table->model()->columnCount() - 1));
+        paste(table->findChild<QLineEdit*>());
+    }
+    QApplication::clipboard()->setText(QString("x").repeated(65535));
+    QTest::keyClick(Find<QLineEdit>("WellName"), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(dialog_->GetMiscWellDetails().size(), 65535) << "pasted over the selected text";
+}
+
+TEST_F(WellDetailsDialogTest, EnterEndsAnEditAndNotTheDialog)
+{
+    dialog_->show();
+    QSignalSpy const closed(dialog_.get(), &QDialog::finished);
+    SurveyImporter importer;
+    importer.show();
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{Find<QTableWidget>("SurveyTable"), Find<QLineEdit>("TieInTvd"),
+                                         importer.findChild<QLineEdit*>("DeviationFile")}) {
+        DialogAnswer const dialogs;
+        QTest::keyClick(widget, Qt::Key_Return);
+        EXPECT_EQ(dialogs.GetTitles(), QStringList());
+    }
+    EXPECT_EQ(closed.count(), 0);
 }
 
 TEST_F(WellDetailsDialogTest, TheFlatTableBecomesPipeStrings)
@@ -259,46 +287,37 @@ TEST_F(WellDetailsDialogTest, TheFlatTableBecomesPipeStrings)
     Click("DeletePipe");
     EXPECT_EQ(CountWrites(), 0) << "an empty table leaves the strings alone";
 
-    Click("AddPipe");
     auto* table = Find<QTableWidget>("PipeTable");
-    QStringList const row = {"0", "1,000", "4.5", "3.9", "12.6"};
-    for (int column = 0; column < row.size(); ++column) {
-        table->item(0, column)->setText(row[column]);
-    }
+    QApplication::clipboard()->setText("0\t1,000\t4.5\t3.9\t12.6\tno\t4 1/2\"");
+    QTest::keyClick(table, Qt::Key_V, Qt::ControlModifier);
     table->item(0, 5)->setCheckState(Qt::Checked);
-    table->item(0, 6)->setText("4 1/2\"");
     EXPECT_EQ(CountWrites(), 1);
     double const depth = static_cast<double>(1000 * 0.3048F);
     EXPECT_EQ(project_.GetPipeStringData().GetPipeStringVector(),
               std::vector<PipeString>(
                   {PipeString("Tubing", depth, true, {PipeComponent(4.5F, 3.9F, 12.6F, depth, "4 1/2\"")})}));
     EXPECT_EQ(table->rowCount(), 0);
-    EXPECT_EQ(Find<QTabWidget>("PipeStrings")->count(), 1);
 }
 
 TEST_F(WellDetailsDialogTest, ButtonsAddAndDelete)
 {
-    for (auto const& [table, add, remove] :
-         {std::tuple("SurveyTable", "AddSurvey", "DeleteSurvey"),
-          std::tuple("PerfoTable", "AddPerfo", "DeletePerfo"),
-          std::tuple("MarkersATable", "AddMarkerA", "DeleteMarkerA"),
-          std::tuple("MarkersBTable", "AddMarkerB", "DeleteMarkerB"),
-          std::tuple("PipeTable", "AddPipe", "DeletePipe"),
-          std::tuple("ComponentTable", "AddComponent", "DeleteComponent")}) {
+    for (auto const& [table, name] :
+         {std::pair("SurveyTable", "Survey"), std::pair("PerfoTable", "Perfo"),
+          std::pair("MarkersATable", "MarkerA"), std::pair("MarkersBTable", "MarkerB"),
+          std::pair("PipeTable", "Pipe"), std::pair("ComponentTable", "Component")}) {
         auto const* model = Find<QTableView>(table)->model();
         int const rows = model->rowCount();
-        Click(add);
+        Click(QString("Add") + name);
         EXPECT_EQ(model->rowCount(), rows + 1) << table;
-        Click(remove); // the new row is the selected one
+        Click(QString("Delete") + name); // the new row is the selected one
         EXPECT_EQ(model->rowCount(), rows) << table;
     }
     auto* tracks = Find<QTabWidget>("ZoneTracks");
     auto* strings = Find<QTabWidget>("PipeStrings");
     for (int i = 0; i < 3; ++i) {
-        Click("DeleteZoneTrack");
-        Click("DeletePipeString");
-        Click("DeleteZone");
-        Click("DeletePipeComponent");
+        for (auto const* name : {"ZoneTrack", "PipeString", "Zone", "PipeComponent"}) {
+            Click(QString("Delete") + name);
+        }
     }
     EXPECT_EQ(tracks->count() + strings->count(), 0);
     Click("AddZone"); // makes a track for it
@@ -306,18 +325,6 @@ TEST_F(WellDetailsDialogTest, ButtonsAddAndDelete)
     EXPECT_EQ(tracks->currentWidget()->findChild<QTableView*>()->model()->rowCount(), 1);
     EXPECT_EQ(strings->currentWidget()->findChild<QTableView*>()->model()->rowCount(), 1);
     EXPECT_EQ(CountWrites(), 2);
-    EXPECT_EQ(project_.GetZoneTracks().size(), 1);
-}
-
-TEST_F(WellDetailsDialogTest, AOneStationSurveyIsShownUntilApplied)
-{
-    auto* table = Find<QTableWidget>("SurveyTable");
-    table->selectAll();
-    Click("DeleteSurvey");
-    Click("AddSurvey");
-    EXPECT_EQ(table->rowCount(), 1);
-    EXPECT_EQ(CountWrites(), 1);
-    EXPECT_EQ(table->rowCount(), 0);
 }
 
 TEST_F(WellDetailsDialogTest, RecalculateShowsTheFormsTrajectoryAndStoresNothing)
@@ -329,23 +336,24 @@ TEST_F(WellDetailsDialogTest, RecalculateShowsTheFormsTrajectoryAndStoresNothing
     Click("AddSurvey");
     SetCell("SurveyTable", 1, 0, "1,000");
     Find<QLineEdit>("TieInTvd")->setText("50");
-    QStringList row;
-    DialogAnswer const dialogs({[&row](QDialog* dialog) {
-        ASSERT_NE(qobject_cast<WellTrajectoryDialog*>(dialog), nullptr);
+    DialogAnswer const dialogs({[](QDialog* dialog) {
         auto const* model = dialog->findChild<QTableView*>()->model();
         ASSERT_EQ(model->rowCount(), 2);
-        for (int column = 0; column < model->columnCount(); ++column) {
-            row << model->index(1, column).data().toString();
-        }
+        EXPECT_EQ(model->index(1, 0).data(), "1,000.00");
+        EXPECT_EQ(model->index(1, 3).data(), "1,050.00") << "straight down from the tie-in";
         dialog->reject();
     }});
-    QSignalSpy const writes(&project_.GetDataContainerWrapper(),
-                            &DataContainerWrapper::DataContainerWriteAccessRequested_Signal);
+    writes_.clear();
     Click("RecalculateSurvey");
-    EXPECT_EQ(row[0], "1,000.00");
-    EXPECT_EQ(row[3], "1,050.00") << "straight down from the tie-in";
-    EXPECT_EQ(writes.count(), 0);
-    EXPECT_EQ(dialogs.GetMessages(), QStringList());
+    EXPECT_EQ(dialogs.GetTitles().size(), 1);
+    EXPECT_EQ(writes_.count(), 0);
+
+    // A survey of one station is shown until it is applied.
+    survey->selectRow(1);
+    Click("DeleteSurvey");
+    EXPECT_EQ(survey->rowCount(), 1);
+    EXPECT_EQ(CountWrites(), 1);
+    EXPECT_EQ(survey->rowCount(), 0);
 }
 
 TEST_F(WellDetailsDialogTest, ImportPutsTheFilesStationsInTheTable)
@@ -353,13 +361,11 @@ TEST_F(WellDetailsDialogTest, ImportPutsTheFilesStationsInTheTable)
     test_files::Folder const folder;
     auto const path = folder.Write("deviation.txt", "0 0 10\n100 5 20\n");
     DialogAnswer const dialogs({[&path](QDialog* dialog) {
-        ASSERT_NE(qobject_cast<SurveyImporter*>(dialog), nullptr);
         dialog->findChild<QLineEdit*>("DeviationFile")->setText(path);
         dialog->accept();
     }});
     Click("ImportSurvey");
     auto const* table = Find<QTableWidget>("SurveyTable");
     ASSERT_EQ(table->rowCount(), 2);
-    EXPECT_EQ(table->item(1, 0)->text(), "100.00");
     EXPECT_EQ(table->item(1, 2)->text(), "20.00");
 }

@@ -4,11 +4,8 @@
 #include "well/WellDetailsImport.h"
 
 #include "model/ProjectAccess.h"
-#include "well/JsonImporterDialog.h"
 #include "well/WellDetailsImporter.h"
 
-#include <QCheckBox>
-#include <QRadioButton>
 #include <QSignalSpy>
 
 #include <gtest/gtest.h>
@@ -23,7 +20,7 @@ QByteArray const WELL = R"({
 })";
 
 using Stations = std::vector<DirectionalSurveyItem>;
-Stations const OLD_STATIONS = {{0, 0, 10}, {100, 3, 20}, {200, 4, 30}};
+Stations const OLD_STATIONS = {{0, 0, 10}, {100, 3, 20}, {200, 4, 30}, {200, 4, 30}};
 Zone const OLD_ZONE({1, 2}, "old", Qt::red);
 Zone const NEW_ZONE({10, 20}, "file", Zone::DEFAULT_COLOR);
 WellComponent const OLD_COMPONENT({1, 2}, "old", WellComponentType::Fish);
@@ -39,9 +36,7 @@ protected:
         project_.SetTrajectorySurvey(OLD_STATIONS, {.tvd = 1, .ns = 2, .ew = 3});
         project_.SetPerforationZones({OLD_ZONE});
         project_.SetComponents({OLD_COMPONENT});
-        PipeStringData pipes;
-        pipes.SetPipeStringVector({OLD_STRING});
-        project_.SetPipeStringData(pipes);
+        project_.SetPipeStringData({OLD_STRING});
         project_.SetWellName("Old");
     }
 
@@ -55,22 +50,16 @@ protected:
     WellDetailsImporter const importer_ = WellDetailsImporter::FromJson(WELL);
 };
 
-WellDetailsChoice Everything(bool replace)
-{
-    return {.inclination = true,
-            .perforations = true,
-            .pipe_strings = true,
-            .components = true,
-            .replace = replace};
-}
+WellDetailsChoice const MERGE_ALL{true, true, true, true, false};
+WellDetailsChoice const REPLACE_ALL{true, true, true, true, true};
 } // namespace
 
 TEST_F(WellDetailsImportTest, MergesIntoWhatIsThere)
 {
-    WellDetailsImport::Apply(project_, importer_, Everything(false));
+    WellDetailsImport::Apply(project_, importer_, MERGE_ALL);
     EXPECT_EQ(project_.GetDirectionalSurveyVector(),
-              Stations({{0, 0, 10}, {50, 2, 10}, {100, 3, 20}, {200, 4, 30}}))
-        << "a station that is there already is not doubled";
+              Stations({{0, 0, 10}, {50, 2, 10}, {100, 3, 20}, {200, 4, 30}, {200, 4, 30}}))
+        << "what is there stays, and a station that is there is not added again";
     EXPECT_EQ(project_.GetDirectionalSurveyTieInData(),
               (DirectionalSurveyTieInData{.tvd = 1, .ns = 2, .ew = 3}));
     EXPECT_EQ(project_.GetPerforationZones(), QList<Zone>({OLD_ZONE, NEW_ZONE}));
@@ -81,7 +70,7 @@ TEST_F(WellDetailsImportTest, MergesIntoWhatIsThere)
 
 TEST_F(WellDetailsImportTest, ReplacesWhatIsThere)
 {
-    WellDetailsImport::Apply(project_, importer_, Everything(true));
+    WellDetailsImport::Apply(project_, importer_, REPLACE_ALL);
     EXPECT_EQ(project_.GetDirectionalSurveyVector(), Stations({{50, 2, 10}, {100, 3, 20}}));
     EXPECT_EQ(project_.GetDirectionalSurveyTieInData(),
               (DirectionalSurveyTieInData{.tvd = 25, .ns = 0, .ew = 0}));
@@ -95,8 +84,8 @@ TEST_F(WellDetailsImportTest, TakesOnlyWhatIsChosenAndThere)
     QSignalSpy const writes(&project_.GetDataContainerWrapper(),
                             &DataContainerWrapper::DataContainerWriteAccessRequested_Signal);
     WellDetailsImport::Apply(project_, WellDetailsImporter::FromJson("{\"Well Name\": \"Old\"}"),
-                             Everything(true));
-    WellDetailsImport::Apply(project_, WellDetailsImporter::FromJson("junk"), Everything(false));
+                             REPLACE_ALL);
+    WellDetailsImport::Apply(project_, WellDetailsImporter::FromJson("junk"), MERGE_ALL);
     EXPECT_EQ(writes.count(), 0);
 
     WellDetailsImport::Apply(project_, importer_, {.perforations = true, .replace = true});
@@ -107,49 +96,34 @@ TEST_F(WellDetailsImportTest, TakesOnlyWhatIsChosenAndThere)
     EXPECT_EQ(project_.GetComponents(), QList<WellComponent>({OLD_COMPONENT}));
 }
 
-TEST_F(WellDetailsImportTest, TextsTooLongForAProjectFileAreFound)
+TEST_F(WellDetailsImportTest, WhatIsTooLongIsNoWell)
 {
     EXPECT_EQ(WellDetailsImport::Check(importer_), "");
-    QByteArray const text = QByteArray("y").repeated(65536);
-    for (QByteArray const& json : QList<QByteArray>{
-             "{\"Well Name\": \"" + text + "\"}", "{\"Perforations\": [{\"Description\": \"" + text + "\"}]}",
-             "{\"Tubing String\": {\"Component List\": [{\"Description\": \"" + text + "\"}]}}",
-             "{\"Casing Strings\": [{\"Outer Cement Description\": \"" + text + "\"}]}",
-             "{\"Misc Well Components\": [{\"Description\": \"" + text + "\"}]}"}) {
-        EXPECT_EQ(WellDetailsImport::Check(WellDetailsImporter::FromJson(json)),
-                  "The text beginning with \"" + QString("y").repeated(40) +
+    QByteArray const zeros = "[0" + QByteArray(",0").repeated(100000) + "]";
+    for (auto const& [before, item, after, things, most] :
+         std::vector<std::tuple<QByteArray, QByteArray, QByteArray, QString, int>>{
+             {"\"Casing Strings\":", "{}", "}", "pipe strings", 1000},
+             {"\"Perforations\":", "{}", "}", "perforations", 100000},
+             {"\"Misc Well Components\":", "{}", "}", "components", 100000},
+             {"\"Tubing String\":{\"Component List\":", "{}", "}}", "components in a pipe string", 100000},
+             {"\"Inclination Survey\":{\"MD\":" + zeros + ",\"Inclination\":" + zeros + ",\"Azimuth\":", "0",
+              "}}", "stations", 100000}}) {
+        QByteArray const full = "{" + before + "[" + item + ("," + item).repeated(most - 1);
+        EXPECT_EQ(WellDetailsImport::Check(WellDetailsImporter::FromJson(full + "]" + after)), "");
+        EXPECT_EQ(WellDetailsImport::Check(WellDetailsImporter::FromJson(full + "," + item + "]" + after)),
+                  QString("The file holds %1 %2, more than %3.").arg(most + 1).arg(things).arg(most));
+    }
+
+    QString const text = QString("y").repeated(65536);
+    for (QByteArray const& json :
+         QList<QByteArray>{R"("Well Name": "%1")", R"("Perforations": [{"Description": "%1"}])",
+                           R"("Tubing String": {"Component List": [{"Description": "%1"}]})",
+                           R"("Casing Strings": [{"Outer Cement Description": "%1"}])",
+                           R"("Misc Well Components": [{"Description": "%1"}])"}) {
+        EXPECT_EQ(WellDetailsImport::Check(
+                      WellDetailsImporter::FromJson("{" + QString(json).arg(text).toUtf8() + "}")),
+                  "The text beginning with \"" + text.left(40) +
                       "...\" is too long for a project file: 65536 bytes of at most 65535. Please shorten "
                       "the text.");
     }
-}
-
-TEST_F(WellDetailsImportTest, ThousandsOfStringsAreNoWell)
-{
-    auto const make = [](int count) {
-        return WellDetailsImporter::FromJson("{\"Casing Strings\": [" + QByteArray("{},").repeated(count) +
-                                             "{}]}");
-    };
-    EXPECT_EQ(WellDetailsImport::Check(make(999)), "");
-    EXPECT_EQ(WellDetailsImport::Check(make(1000)), "The file holds 1001 pipe strings, more than 1000.");
-}
-
-TEST(JsonImporterDialog, OffersWhatTheFileHas)
-{
-    JsonImporterDialog dialog(nullptr, true, false, true, false);
-    QStringList enabled;
-    for (auto const* box : dialog.findChildren<QCheckBox*>()) {
-        if (box->isEnabled()) {
-            enabled << box->text();
-        }
-    }
-    EXPECT_EQ(enabled, QStringList({"Inclination", "Casing/Tubing Strings"}));
-    EXPECT_TRUE(dialog.InclinationChecked());
-    EXPECT_FALSE(dialog.PerfChecked());
-    EXPECT_TRUE(dialog.PipeStringChecked());
-    EXPECT_FALSE(dialog.WellComponentsChecked());
-    EXPECT_FALSE(dialog.ReplaceDataMode());
-    for (auto* button : dialog.findChildren<QRadioButton*>()) {
-        button->setChecked(button->text().startsWith("Replace"));
-    }
-    EXPECT_TRUE(dialog.ReplaceDataMode());
 }

@@ -3,11 +3,9 @@
 
 #include "well/Zone.h"
 
+#include "support/Pixels.h"
 #include "well/WellComponentType.h"
 #include "well/ZoneTrack.h"
-
-#include <QImage>
-#include <QPainter>
 
 #include <gtest/gtest.h>
 
@@ -16,55 +14,37 @@
 namespace {
 QImage Painted(Zone const& zone, int y, int height)
 {
-    QImage image(40, 100, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::black);
-    QPainter painter(&image);
-    zone.PaintMe(&painter, 10, y, 20, height, zone.GetColor());
-    return image;
-}
-
-/// Rows of column 11 (clear of any text) that have the colour; first and last.
-std::pair<int, int> Rows(QImage const& image, QColor const& color)
-{
-    std::pair<int, int> rows(-1, -1);
-    for (int y = 0; y < image.height(); ++y) {
-        if (image.pixelColor(11, y) == color) {
-            rows = {rows.first < 0 ? y : rows.first, y};
-        }
-    }
-    return rows;
-}
-
-int CountOtherThan(QImage const& image, QColor const& color)
-{
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 10; x < 30; ++x) {
-            count += image.pixelColor(x, y) != color && image.pixelColor(x, y) != Qt::black ? 1 : 0;
-        }
-    }
-    return count;
+    return pixels::Paint({40, 100}, Qt::black, [&](QPainter& painter) {
+        zone.PaintMe(&painter, 10, y, 20, height, zone.GetColor());
+    });
 }
 } // namespace
 
 TEST(Zone, PaintsInsideTheWindow)
 {
     Zone const zone({0, 1}, "", QColor(200, 10, 30));
-    EXPECT_EQ(Rows(Painted(zone, 20, 30), zone.GetColor()), std::make_pair(20, 49));
-    EXPECT_EQ(Rows(Painted(zone, -50, 60), zone.GetColor()), std::make_pair(0, 9));
-    EXPECT_EQ(Rows(Painted(zone, 90, 5000), zone.GetColor()), std::make_pair(90, 99));
-    EXPECT_EQ(Rows(Painted(zone, 40, 0), zone.GetColor()), std::make_pair(40, 40));
-    EXPECT_EQ(Rows(Painted(zone, -2'000'000'000, 2'147'483'647), zone.GetColor()), std::make_pair(0, 99));
-    QImage const image = Painted(zone, 20, 30);
-    EXPECT_EQ(image.pixelColor(9, 30), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(30, 30), QColor(Qt::black));
+    struct
+    {
+        int y, height, first, last;
+    } const cases[] = {{20, 30, 20, 49},
+                       {-50, 60, 0, 9},
+                       {90, 5000, 90, 99},
+                       {40, 0, 40, 40},
+                       {-2'000'000'000, 2'147'483'647, 0, 99}};
+    for (auto const& [y, height, first, last] : cases) {
+        QImage const image = Painted(zone, y, height);
+        int const pixels = 20 * (last - first + 1);
+        EXPECT_EQ(pixels::Count(image, zone.GetColor(), QRect(QPoint(10, first), QPoint(29, last))), pixels);
+        EXPECT_EQ(pixels::Count(image, Qt::black), 40 * 100 - pixels);
+    }
 }
 
 TEST(Zone, WritesOnlyWhatFits)
 {
     Zone const zone({0, 1}, "Sand", QColor(0, 0, 200));
-    EXPECT_GT(CountOtherThan(Painted(zone, 0, 100), zone.GetColor()), 10) << "text in the difference colour";
-    EXPECT_EQ(CountOtherThan(Painted(zone, 0, 5), zone.GetColor()), 0);
+    EXPECT_LT(pixels::Count(Painted(zone, 0, 100), zone.GetColor()), 20 * 100 - 10)
+        << "text in another colour";
+    EXPECT_EQ(pixels::Count(Painted(zone, 0, 5), zone.GetColor()), 20 * 5);
 }
 
 TEST(ZoneTrack, SortsByDepth)

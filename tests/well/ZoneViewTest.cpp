@@ -5,10 +5,10 @@
 
 #include "display/BaseScaleView.h"
 #include "display/ViewBench.h"
+#include "support/Pixels.h"
 #include "well/WellViewFactory.h"
 #include "well/ZoneCombinedViewWidget.h"
 
-#include <QPainter>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -58,7 +58,6 @@ protected:
 TEST_F(ZoneViewTest, ColumnsStandSideBySide)
 {
     EXPECT_EQ(view->GetHeadings(), QStringList({"Perforation", "Geology", "Interpretation"}));
-    EXPECT_EQ(view->CountNumberOfZoneColumns(), 3);
     auto const& boxes = view->GetBoundingBoxes();
     ASSERT_EQ(boxes.size(), 3U);
     EXPECT_EQ(boxes[0].at(0).area, QRect(6, 20, 88, 20));
@@ -66,30 +65,20 @@ TEST_F(ZoneViewTest, ColumnsStandSideBySide)
     EXPECT_EQ(boxes[1].at(1).area, QRect(106, 0, 88, 1));    // begins above the window
     EXPECT_EQ(boxes[2].at(0).area, QRect(206, 0, 88, 200));
 
-    EXPECT_EQ(image.pixelColor(5, 30), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(6, 30), red);
-    EXPECT_EQ(image.pixelColor(93, 30), red);
-    EXPECT_EQ(image.pixelColor(94, 30), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(50, 19), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(50, 40), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(110, 110), green);
-    EXPECT_EQ(image.pixelColor(150, 0), blue);
-    EXPECT_EQ(image.pixelColor(150, 1), QColor(Qt::black));
-    EXPECT_EQ(image.pixelColor(210, 81), blue);
+    pixels::Expect(image, Qt::black, {{5, 30}, {94, 30}, {50, 19}, {50, 40}, {150, 1}});
+    pixels::Expect(image, red, {{6, 30}, {93, 30}});
+    pixels::Expect(image, green, {{110, 110}});
+    pixels::Expect(image, blue, {{150, 0}, {210, 81}});
 }
 
 TEST_F(ZoneViewTest, StatusTextNamesColumnAndDepths)
 {
-    EXPECT_EQ(view->GetStatusMessage(50, 30).text, "[Perforation] -      MD[1,010 - 1,020]m");
     EXPECT_FLOAT_EQ(view->GetStatusMessage(50, 30).depth, 1015);
-    EXPECT_EQ(view->GetStatusMessage(150, 120).text, "[Geology] - Sand     MD[1,050 - 1,080]m");
-    EXPECT_EQ(view->GetStatusMessage(250, 100).text, "[Interpretation] - Z1     MD[1,000 - 1,100]m");
-    EXPECT_EQ(view->GetStatusMessage(250, 80).text, "[Interpretation] - Z2     MD[1,040 - 1,041]m");
-    EXPECT_EQ(view->GetStatusMessage(50, 60).text, "No zone");
-    EXPECT_EQ(view->GetStatusMessage(-1, 30).text, "No zone");
-    EXPECT_EQ(view->GetStatusMessage(300, 30).text, "No zone");
-    EXPECT_EQ(view->FindZoneColumn(99), 0);
-    EXPECT_EQ(view->FindZoneColumn(100), 1);
+    auto const text = [this](int x, int y) { return view->GetStatusMessage(x, y).text; };
+    EXPECT_EQ(text(50, 30), "[Perforation] -      MD[1,010 - 1,020]m");
+    EXPECT_EQ(text(150, 120), "[Geology] - Sand     MD[1,050 - 1,080]m");
+    EXPECT_EQ(text(250, 80), "[Interpretation] - Z2     MD[1,040 - 1,041]m");
+    EXPECT_EQ(QStringList({text(50, 60), text(-1, 30), text(300, 30)}), QStringList(3, "No zone"));
 }
 
 TEST_F(ZoneViewTest, AClickReportsTheZone)
@@ -107,9 +96,8 @@ TEST_F(ZoneViewTest, AClickReportsTheZone)
     QTest::mouseRelease(view, Qt::LeftButton, {}, {150, 120});
     bench.parameters.SetInterpretationZonesDefinitionChecked(true);
     QTest::mouseClick(view, Qt::LeftButton, {}, {150, 120});
-    ASSERT_EQ(clicks.size(), 1U);
-    EXPECT_EQ(clicks[0].first, Interval(1050, 1080));
-    EXPECT_EQ(clicks[0].second, "[Geology] - Sand");
+    std::vector<std::pair<Interval, QString>> const expected{{{1050, 1080}, "[Geology] - Sand"}};
+    EXPECT_EQ(clicks, expected);
 }
 
 TEST_F(ZoneViewTest, TheZoneUnderTheMouseIsFramed)
@@ -122,18 +110,6 @@ TEST_F(ZoneViewTest, TheZoneUnderTheMouseIsFramed)
     EXPECT_EQ(view->GetRenderCount(), renders);
 }
 
-TEST_F(ZoneViewTest, NoZonesNoColumn)
-{
-    perforations.clear();
-    tracks.clear();
-    interpretation.clear();
-    view->ForceRedraw();
-    view->grab();
-    EXPECT_EQ(view->CountNumberOfZoneColumns(), 0);
-    EXPECT_TRUE(view->GetBoundingBoxes().empty());
-    EXPECT_EQ(view->GetStatusMessage(150, 120).text, "No zone");
-}
-
 TEST_F(ZoneViewTest, FaultyDepthsAreSurvived)
 {
     double const nan = std::numeric_limits<double>::quiet_NaN();
@@ -141,24 +117,28 @@ TEST_F(ZoneViewTest, FaultyDepthsAreSurvived)
     interpretation = {Zone({nan, 1050}, "a", red), Zone({1050, nan}, "b", red),
                       Zone({-infinity, infinity}, "c", blue), Zone({-1e300, 1e300}, "d", green)};
     view->ForceRedraw();
-    QImage const after = view->grab().toImage();
-    EXPECT_EQ(after.pixelColor(210, 10), green);
+    EXPECT_EQ(view->grab().toImage().pixelColor(210, 10), green);
     for (Interval const& interval : {Interval(nan, nan), Interval(5, 5), Interval(), Interval(1100, 1000)}) {
-        QImage page(300, 201, QImage::Format_RGB32);
-        page.fill(Qt::white);
-        QPainter painter(&page);
-        view->RenderToPainter(painter, interval, 300);
+        pixels::Paint({300, 201}, Qt::white,
+                      [&](QPainter& painter) { view->RenderToPainter(painter, interval, 300); });
         EXPECT_TRUE(view->GetBoundingBoxes().empty());
     }
     // Narrower than its margins.
-    QImage page(2, 201, QImage::Format_RGB32);
-    QPainter painter(&page);
-    view->RenderToPainter(painter, {1000, 1100}, 2);
+    pixels::Paint({2, 201}, Qt::white, [&](QPainter& painter) {
+        view->RenderToPainter(painter, {1000, 1100}, 2);
+    });
     EXPECT_EQ(view->FindZoneColumn(1), -1);
 }
 
-TEST_F(ZoneViewTest, TheHeaderIsAsHighAsItsHeadings)
+TEST_F(ZoneViewTest, NoZonesNoColumn)
 {
     EXPECT_EQ(pair->GetBaseScaleView()->GetName(), "Zones");
-    EXPECT_EQ(pair->GetBaseScaleView()->sizeHint().height(), 40);
+    EXPECT_EQ(pair->GetBaseScaleView()->sizeHint().height(), 40) << "as high as its headings";
+    perforations.clear();
+    tracks.clear();
+    interpretation.clear();
+    view->ForceRedraw();
+    view->grab();
+    EXPECT_TRUE(view->GetBoundingBoxes().empty());
+    EXPECT_EQ(view->GetStatusMessage(150, 120).text, "No zone");
 }

@@ -237,32 +237,33 @@ def main():
     rng = random.Random(77)
     out = ["# written by pipes.py"]
 
-    def say(word, *values):
-        out.append(" ".join([word] + [v if isinstance(v, str) else "%.17g" % v for v in values]))
+    def say(word, *values, digits=12):
+        out.append(" ".join([word] + [v if isinstance(v, str) else "%.*g" % (digits, v) for v in values]))
 
     for kind in ("full", "full", "full", "open", "wild", "wild", "wild", "wild"):
         well = random_well(rng, kind)
         say("well")
         for s in rng.sample(well.strings, len(well.strings)):
-            say("string", s.name, s.set_depth, float(s.tubing))
+            say("string", s.name, s.set_depth, float(s.tubing), digits=17)
             for joint in s.joints:
-                say("joint", joint.name, joint.od, joint.id, joint.length)
+                say("joint", joint.name, joint.od, joint.id, joint.length, digits=17)
         say("order", *(s.name for s in well.strings))
         for s in well.strings:
             say("nominal", s.name, s.nid, s.nod, s.top)
         start, end = sorted(rng.uniform(0, 3000) for _ in range(2))
-        paths = [("annulus", [], well.annulus()), ("top", [], well.from_top()), ("accessible", [], well.accessible()),
-                 ("production", [start], well.production(start)), ("outer", [start, end], well.outer(start, end))]
+        paths = [("annulus", start, well.annulus()), ("top", start, well.from_top()),
+                 ("accessible", start, well.accessible()), ("production", start, well.production(start)),
+                 ("outer", start, well.outer(start, end))]
         for s in well.strings:
             depth = rng.uniform(s.top, s.bottom)
-            paths.append(("trace:" + s.name, [depth], well.trace(s, depth)))
-        for name, arguments, path in paths:
-            say("path", name, *arguments)
+            paths.append((s.name, depth, well.trace(s, depth)))
+        for name, top, path in paths:
+            say("path", name, top, end, digits=17)
             for joint in path:
                 say("part", joint.name, joint.top, joint.bottom)
-            say("volumes", start, end, total(path, start, end, Joint.volume),
-                total(path, start, end, Joint.displacement), below(path, start),
-                sum(joint.volume(joint.length) for joint in path))
+            say("volumes", *(f32(v) for v in (
+                total(path, top, end, Joint.volume), total(path, top, end, Joint.displacement), below(path, top),
+                sum(joint.volume(joint.length) for joint in path))), digits=6)
     path = Path(__file__).resolve().parents[2] / "data/well/pipes.txt"
     path.write_text("\n".join(out) + "\n")
 

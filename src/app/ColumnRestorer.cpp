@@ -35,6 +35,7 @@ QStringList ColumnRestorer::RestoreColumnWindow(COLUMN_WINDOW_Struct const& reco
 {
     column_.SetOverrideAutomaticDisplayedInterval(true); // no recalculation while views come and go
     order_.clear();
+    automatic_views_.clear();
     warnings_.clear();
     for (index_ = 0; index_ < static_cast<int>(record.views.size()); ++index_) {
         auto const known = order_.size();
@@ -44,6 +45,7 @@ QStringList ColumnRestorer::RestoreColumnWindow(COLUMN_WINDOW_Struct const& reco
             order_.last()->setVisible(view->is_visible);
         }
     }
+    RestoreAutomaticDataViews();
     auto* area = column_.GetScrollAreaWrapper();
     for (qsizetype i = 0; i < order_.size(); ++i) {
         area->InsertSplitterWidget(static_cast<int>(i), order_[i]);
@@ -52,50 +54,63 @@ QStringList ColumnRestorer::RestoreColumnWindow(COLUMN_WINDOW_Struct const& reco
     return warnings_;
 }
 
-BaseCombinedViewWidget* ColumnRestorer::FindView(QString const& object_name, QString const& name) const
+BaseCombinedViewWidget* ColumnRestorer::TakeOwnView(VIEW_WIDGET_STRUCT const& record)
 {
     for (auto* pair : column_.FindAllCombinedViewWidgets()) {
-        if (pair->GetBaseViewWidgetObjectName() == object_name && !order_.contains(pair) &&
-            (name.isEmpty() || pair->GetBaseViewWidgetName() == name)) {
+        if (pair->GetBaseViewWidgetObjectName() == record.object_name && !order_.contains(pair)) {
+            if (!record.name.isEmpty()) {
+                pair->SetBaseViewWidgetName(record.name);
+            }
+            order_.append(pair);
             return pair;
         }
     }
     return nullptr;
 }
 
-void ColumnRestorer::AddChannelsByMnemonic(QString const& name)
+void ColumnRestorer::AddHeadChannel(AutomaticDataView& view, INTERMEDIATE_DATAVIEW_STRUCT const& record)
 {
+    if (record.scales.empty()) {
+        return;
+    }
     auto const key = column_.GetSurveyId();
     for (auto const& hash : project_.GetDepthLogIdentifierHashes(key)) {
         auto const pass = project_.GetDepthLogPass(LogPassIdentifier(key, hash));
-        if (int const index = pass->FindDataChannelByMnem(name); index >= 0) {
-            column_.AddDepthDataChannelToDataView(name, pass->GetDataChannel(index));
+        int const index = pass->FindDataChannelByMnem(record.name);
+        if (index >= 0 && pass->GetDataChannel(index)->GetCurveInfo() == record.scales.front()->header) {
+            column_.AddDepthDataChannelToDataView(&view, pass->GetDataChannel(index));
+            return;
         }
     }
+}
+
+void ColumnRestorer::RestoreAutomaticDataViews()
+{
+    auto const key = column_.GetSurveyId();
+    for (auto const& [view, record] : automatic_views_) {
+        AddHeadChannel(*view, *record);
+    }
+    for (auto const& hash : project_.GetDepthLogIdentifierHashes(key)) {
+        column_.AddRestoredDepthLog(project_.GetDepthLogPass(LogPassIdentifier(key, hash)));
+    }
     for (auto const& hash : project_.GetTimeLogIdentifierHashes(key)) {
-        auto const log = project_.GetTimeLog(LogPassIdentifier(key, hash));
-        for (auto const& mnemonic : log->GetDataChannelNames()) {
-            auto const postfix = ColumnWindow::CheckForTimeLogPostFix(mnemonic);
-            if (mnemonic.chopped(postfix.size()) == name) {
-                column_.AddTimeLogDataChannelToDataView(
-                    name, log->GetDataChannel(log->FindDataChannelByMnem(mnemonic)));
-            }
+        column_.AddRestoredTimeLog(project_.GetTimeLog(LogPassIdentifier(key, hash)));
+    }
+    for (auto const& [view, record] : automatic_views_) {
+        try {
+            view->RestoreState_IntermediateDataView(*record);
+            view->UpdateScales();
+        } catch (std::exception const&) {
+            warnings_ << DataViewWarning(record->name);
         }
     }
 }
 
 void ColumnRestorer::CreateAndRestoreAutomaticDataView(INTERMEDIATE_DATAVIEW_STRUCT const& record)
 {
-    try {
-        auto* pair = column_.CreateDataView_Public(record.name, true);
-        order_.append(pair);
-        AddChannelsByMnemonic(record.name);
-        auto* view = qobject_cast<AutomaticDataView*>(pair->GetBaseDataView());
-        view->RestoreState_IntermediateDataView(record);
-        view->UpdateScales();
-    } catch (std::exception const&) {
-        warnings_ << DataViewWarning(record.name);
-    }
+    auto* pair = column_.CreateDataView_Public(record.name, true);
+    order_.append(pair);
+    automatic_views_.emplace_back(qobject_cast<AutomaticDataView*>(pair->GetBaseDataView()), &record);
 }
 
 void ColumnRestorer::CreateAndRestoreUserDataView(USER_DATAVIEW_STRUCT const& record)
@@ -104,30 +119,16 @@ void ColumnRestorer::CreateAndRestoreUserDataView(USER_DATAVIEW_STRUCT const& re
         auto* pair = column_.CreateDataView_Public(record.name, false);
         order_.append(pair);
         auto* view = qobject_cast<UserDataView*>(pair->GetBaseDataView());
-        USER_DATAVIEW_STRUCT present = record;
-        std::vector<int> new_index(record.curves.size(), -1); // channels that are gone leave no gap
-        for (std::size_t i = 0; i < record.curves.size(); ++i) {
-            std::shared_ptr<BaseDepthDataChannel const> channel;
+        for (DataChannelIdentifier const& identifier : record.curves) {
             try {
-                channel = project_.GetDepthDataChannel(record.curves[i]);
+                if (auto const channel = project_.GetDepthDataChannel(identifier)) {
+                    view->AssignDepthDataChannel(channel);
+                }
             } catch (std::exception const&) {
-                continue;
-            }
-            if (channel) {
-                new_index[i] = static_cast<int>(view->GetDepthCurves().size());
-                view->AssignDepthDataChannel(channel);
+                continue; // the channel is gone
             }
         }
-        present.scales.clear();
-        for (auto const& scale : record.scales) {
-            auto const old_index = static_cast<std::size_t>(scale->index);
-            if (old_index < new_index.size() && new_index[old_index] >= 0) {
-                auto copy = std::make_shared<ScaleItemParameters>(*scale);
-                copy->index = new_index[old_index];
-                present.scales.push_back(std::move(copy));
-            }
-        }
-        view->RestoreState_UserDataView(present);
+        view->RestoreState_UserDataView(record);
         view->UpdateScales();
     } catch (std::exception const&) {
         warnings_ << DataViewWarning(record.name);
@@ -136,8 +137,7 @@ void ColumnRestorer::CreateAndRestoreUserDataView(USER_DATAVIEW_STRUCT const& re
 
 void ColumnRestorer::CreateAndRestoreDeviationDataView(BASE_DATAVIEW_STRUCT const& record)
 {
-    if (auto* pair = FindView(record.object_name, QString())) {
-        order_.append(pair);
+    if (auto* pair = TakeOwnView(record)) {
         if (auto* data = qobject_cast<CombinedDataViewWidget*>(pair)) {
             data->GetBaseDataView()->RestoreState_BaseDataView(record);
         }
@@ -160,9 +160,7 @@ void ColumnRestorer::CreateAndRestoreMfcDataView(MFC_DATAVIEW_STRUCT const& reco
 
 void ColumnRestorer::CreateAndRestoreViewWidget(VIEW_WIDGET_STRUCT const& record)
 {
-    if (auto* pair = FindView(record.object_name, QString())) {
-        order_.append(pair);
-    } else {
+    if (TakeOwnView(record) == nullptr) {
         warnings_ << ViewWidgetWarning(record.name);
         column_.CarryView(std::make_shared<VIEW_WIDGET_STRUCT>(record), index_);
     }

@@ -8,6 +8,10 @@
 #include <QList>
 #include <QStringList>
 
+#include <utility>
+#include <vector>
+
+class AutomaticDataView;
 class BaseCombinedViewWidget;
 class ColumnWindow;
 class ProjectAccess;
@@ -30,13 +34,19 @@ public:
     void CreateAndRestoreViewWidget(VIEW_WIDGET_STRUCT const& record) override;
 
 private:
-    /// An existing view of this kind and, where several could be, this name; null without one.
-    [[nodiscard]] BaseCombinedViewWidget* FindView(QString const& object_name, QString const& name) const;
-    void AddChannelsByMnemonic(QString const& name);
+    /// The next view of the record's kind that the column has of itself, under the record's name; null
+    /// without one.
+    BaseCombinedViewWidget* TakeOwnView(VIEW_WIDGET_STRUCT const& record);
+    /// The channel that gives an automatic view its header comes first: the passes are in another order now
+    /// than when they were imported.
+    void AddHeadChannel(AutomaticDataView& view, INTERMEDIATE_DATAVIEW_STRUCT const& record);
+    /// Gives the survey's channels to the automatic views, and these their state.
+    void RestoreAutomaticDataViews();
 
     ColumnWindow& column_;
     ProjectAccess const& project_;
     QList<BaseCombinedViewWidget*> order_;
+    std::vector<std::pair<AutomaticDataView*, INTERMEDIATE_DATAVIEW_STRUCT const*>> automatic_views_;
     QStringList warnings_;
     int index_ = 0; ///< of the record in work
 };

@@ -416,6 +416,7 @@ void QuorrelFrame::OnStretchToggled(bool checked)
 void QuorrelFrame::OnTrackingMode(bool checked)
 {
     Quorrel::TRACKING_MODE = checked;
+    RedrawCurrentColumnWindow();
 }
 
 void QuorrelFrame::OnMfcMode(bool checked)

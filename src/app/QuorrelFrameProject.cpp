@@ -58,7 +58,7 @@ void QuorrelFrame::OnSaveProject()
 {
     auto const folder = SettingsSingleton::Instance().GetQz4Path();
     auto proposal = ProposeFileName(GetDataContainerWrapper().GetReadAccess().GetWellName());
-    if (QFileInfo::exists(folder)) {
+    if (QFileInfo(folder).isDir()) {
         proposal = QFileInfo(folder + '/' + proposal).absoluteFilePath();
     }
     auto path = QFileDialog::getSaveFileName(this, tr("Save Quorrel File"), proposal, tr(FILE_FILTER));
@@ -68,6 +68,14 @@ void QuorrelFrame::OnSaveProject()
     }
     if (info.suffix() != QLatin1String("qz4")) {
         path += ".qz4";
+        // The dialog has asked for the name as it was typed.
+        if (QFileInfo::exists(path) &&
+            QMessageBox::question(
+                this, tr("Save Quorrel File"),
+                tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(path).fileName())) !=
+                QMessageBox::Yes) {
+            return;
+        }
     }
     SaveProject(path);
 }

@@ -43,6 +43,7 @@ ScreensManager::ScreensManager(ColumnWindow& column, QWidget* parent)
     connect(lw_screens_, &QListWidget::itemSelectionChanged, this,
             [this] { pb_delete_->setEnabled(!lw_screens_->selectedItems().isEmpty()); });
     UpdateScreensTable();
+    pb_save->setFocus(); // a list with the focus looks as if its first row were selected
 }
 
 void ScreensManager::UpdateScreensTable()

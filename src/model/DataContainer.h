@@ -153,7 +153,10 @@ public:
         return directional_survey_.InterpolateWellTrajectory(measured_depth);
     }
     [[nodiscard]] PipeStringData const& GetPipeStringData() const { return pipe_strings_; }
-    void SetPipeStringData(PipeStringData const& pipe_strings) { pipe_strings_ = pipe_strings; }
+    void SetPipeStringData(std::vector<PipeString> const& strings)
+    {
+        pipe_strings_.SetPipeStringVector(strings);
+    }
     [[nodiscard]] QList<WellComponent> const& GetComponents() const { return components_; }
     void SetComponents(QList<WellComponent> const& components) { components_ = components; }
     [[nodiscard]] QList<ZoneTrack> const& GetZoneTracks() const { return zone_tracks_; }

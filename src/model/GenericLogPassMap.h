@@ -12,7 +12,6 @@
 #include <iterator>
 #include <map>
 #include <memory>
-#include <source_location>
 #include <stdexcept>
 #include <string>
 
@@ -33,11 +32,11 @@ public:
     /// @throws std::runtime_error for an unknown hash
     [[nodiscard]] std::shared_ptr<LogPassType> at(QString const& hash)
     {
-        return Find(hash, std::source_location::current().function_name());
+        return Find(hash, __PRETTY_FUNCTION__);
     }
     [[nodiscard]] std::shared_ptr<LogPassType const> at(QString const& hash) const
     {
-        return Find(hash, std::source_location::current().function_name());
+        return Find(hash, __PRETTY_FUNCTION__);
     }
 
     /// Takes the log unless its hash is there already; tells whether it did.

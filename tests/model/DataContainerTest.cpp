@@ -153,9 +153,7 @@ TEST_F(DataContainerTest, ClearAllGivesANewProject)
     container_.SetMarkersA({DepthMarker(1, "a")});
     container_.SetMarkersB({DepthMarker(2, "b")});
     container_.AddInterpretationZone(0, zone);
-    PipeStringData pipes;
-    pipes.SetPipeStringVector({PipeString()});
-    container_.SetPipeStringData(pipes);
+    container_.SetPipeStringData({PipeString()});
     container_.SetTrajectorySurvey({{0, 0, 0}, {100, 0, 0}}, {10, 0, 0});
     container_.SetTrajectorySurvey({{0, 0, 0}, {200, 0, 0}}, {10, 0, 0}); // replaces, does not append
     ASSERT_EQ(container_.GetTrajectorySurvey().size(), 2U);

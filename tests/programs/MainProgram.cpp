@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Quorrel authors
 // SPDX-License-Identifier: MIT
 
+#include "app/BusyOverlay.h"
 #include "app/QuorrelMain.h"
 
 #include <QApplication>
@@ -20,9 +21,12 @@ void Look()
     } else {
         for (QWidget* const widget : QApplication::topLevelWidgets()) {
             if (auto* const window = qobject_cast<QMainWindow*>(widget);
-                window != nullptr && window->isVisible()) {
+                window != nullptr && window->isVisible() && window->findChild<BusyOverlay*>() == nullptr) {
+                auto const title = window->windowTitle().section("  ", 0, 0);
+                auto const project = title.startsWith('[') ? ' ' + title : QString();
                 std::cout << "window " << window->objectName().toStdString()
-                          << (window->isMaximized() ? " maximised\n" : " normal\n");
+                          << (window->isMaximized() ? " maximised" : " normal") << project.toStdString()
+                          << '\n';
                 window->close();
                 return;
             }

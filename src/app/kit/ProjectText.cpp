@@ -24,4 +24,11 @@ QString CheckProjectText(QString const& subject, QString const& text)
         .arg(text.toUtf8().size())
         .arg(MAX_PROJECT_TEXT_BYTES);
 }
+
+QString CheckProjectText(QString const& text)
+{
+    return CheckProjectText(
+        QCoreApplication::translate("ProjectText", "The text beginning with \"%1...\" is").arg(text.left(40)),
+        text);
+}
 } // namespace Quorrel

@@ -48,8 +48,8 @@ QString TemporaryFile::GetFullTemporaryFileName()
 bool TemporaryFile::MoveTemporaryFileToDestination()
 {
     QFileInfo const destination(destination_);
-    // An empty name would stand for the working directory, and a folder is nothing to replace.
-    if (full_temporary_file_name_.isEmpty() || destination.isDir()) {
+    // An empty name would stand for the working directory; a folder or a device is nothing to replace.
+    if (full_temporary_file_name_.isEmpty() || (destination.exists() && !destination.isFile())) {
         return false;
     }
     if (!destination.exists()) {

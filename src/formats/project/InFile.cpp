@@ -9,6 +9,11 @@
 #include <cerrno>
 #include <system_error>
 
+#ifdef Q_OS_UNIX
+#include <sys/mman.h>
+#include <unistd.h>
+#endif
+
 InFile::InFile(QString const& path)
 {
     open(QFile::encodeName(path).constData(), std::ios::binary | std::ios::in);
@@ -34,6 +39,23 @@ void InFile::read(char* destination, std::size_t length)
         throw;
     }
     position_ += static_cast<std::int64_t>(length);
+}
+
+void InFile::PopulateMemory(void* begin, std::size_t length)
+{
+#ifdef MADV_POPULATE_WRITE
+    constexpr std::size_t least = 65536; // below, memory is seldom fresh
+    auto const page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    auto const first = (reinterpret_cast<std::uintptr_t>(begin) + page - 1) / page * page;
+    auto const last = (reinterpret_cast<std::uintptr_t>(begin) + length) / page * page;
+    if (length >= least) {
+        // Where the system cannot do it, the first touch does.
+        (void)::madvise(reinterpret_cast<void*>(first), last - first, MADV_POPULATE_WRITE);
+    }
+#else
+    (void)begin;
+    (void)length;
+#endif
 }
 
 void InFile::SeekTo(std::int64_t position)

@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <cstdint>
 #include <fstream>
 #include <vector>
@@ -12,7 +13,7 @@
 /// A binary input stream that throws on every failed read. A read past the end, also one that a length in the
 /// file announces, is a std::ios_base::failure "Reached premature end-of-file", before anything is allocated
 /// for it; other stream failures keep their own text.
-class InFile : private std::ifstream
+class InFile : protected std::ifstream
 {
 public:
     /// @throws std::ios_base::failure, std::runtime_error when the file cannot be opened
@@ -50,6 +51,8 @@ private:
         read(reinterpret_cast<char*>(&value), sizeof(value));
     }
     [[noreturn]] static void ThrowPrematureEnd();
+    /// Takes the pages of fresh memory in one go, which the first touch of each would take one by one.
+    static void PopulateMemory(void* begin, std::size_t length);
 
     std::int64_t size_ = 0;
     std::int64_t position_ = 0;
@@ -61,15 +64,16 @@ std::vector<T> InFile::ReadVector(std::size_t count)
     if (count > static_cast<std::size_t>(GetRemaining()) / sizeof(T)) {
         ThrowPrematureEnd();
     }
-    // By way of a block that stays in the cache: a vector sized at once would be written twice.
+    // In blocks that are still in the cache when they are read into: a vector sized at once would be written
+    // to memory twice.
     constexpr std::size_t block = 65536 / sizeof(T);
     std::vector<T> values;
     values.reserve(count);
-    std::vector<T> buffer(count < block ? count : block);
+    PopulateMemory(values.data(), count * sizeof(T));
     while (values.size() < count) {
-        auto const next = count - values.size() < buffer.size() ? count - values.size() : buffer.size();
-        read(reinterpret_cast<char*>(buffer.data()), next * sizeof(T));
-        values.insert(values.end(), buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(next));
+        auto const begin = values.size();
+        values.resize(std::min(count, begin + block));
+        read(reinterpret_cast<char*>(values.data() + begin), (values.size() - begin) * sizeof(T));
     }
     return values;
 }

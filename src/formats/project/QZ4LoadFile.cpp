@@ -294,9 +294,7 @@ QZ4LoadFile::MainRecord QZ4LoadFile::LoadMain(DataContainer& container)
         {tag::OUTER_CEMENT, [&] { LoadOuterCement(strings); }},
         {tag::WELL_NAME, [&] { container.SetWellName(LoadString()); }},
     });
-    PipeStringData pipe_strings;
-    pipe_strings.SetPipeStringVector(strings);
-    container.SetPipeStringData(pipe_strings);
+    container.SetPipeStringData(strings);
     return record;
 }
 

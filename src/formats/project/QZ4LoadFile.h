@@ -91,6 +91,10 @@ public:
     // Records of the windows
     [[nodiscard]] COLUMN_WINDOW_Struct LoadColumnWindow();
     [[nodiscard]] std::vector<std::shared_ptr<VIEW_WIDGET_BASE_STRUCT>> LoadDataViews(std::size_t count);
+    /// The kind of the view that follows.
+    [[nodiscard]] QString LoadObjectName();
+    /// Whether it is shown.
+    [[nodiscard]] bool LoadCombinedViewWidget();
     void LoadScreens(COLUMN_WINDOW_Struct& record);
 
 private:

@@ -47,16 +47,27 @@ COLUMN_WINDOW_Struct QZ4LoadFile::LoadColumnWindow()
     return record;
 }
 
+QString QZ4LoadFile::LoadObjectName()
+{
+    QString object_name;
+    LoadChain({{qz4::tag::OBJECT_NAME, [&] { object_name = LoadString(); }}});
+    return object_name;
+}
+
+bool QZ4LoadFile::LoadCombinedViewWidget()
+{
+    LoadMagicWord(qz4::COMBINEDVIEWWIDGET);
+    bool is_visible = false;
+    LoadChain({{qz4::tag::COMBINED_VIEW, [&] { is_visible = LoadBool(); }}});
+    return is_visible;
+}
+
 std::vector<std::shared_ptr<VIEW_WIDGET_BASE_STRUCT>> QZ4LoadFile::LoadDataViews(std::size_t count)
 {
     std::vector<std::shared_ptr<VIEW_WIDGET_BASE_STRUCT>> views;
     for (; count > 0; --count) {
-        QString object_name;
-        LoadChain({{qz4::tag::OBJECT_NAME, [&] { object_name = LoadString(); }}});
-        LoadMagicWord(qz4::COMBINEDVIEWWIDGET);
-        bool is_visible = false;
-        LoadChain({{qz4::tag::COMBINED_VIEW, [&] { is_visible = LoadBool(); }}});
-
+        auto const object_name = LoadObjectName();
+        bool const is_visible = LoadCombinedViewWidget();
         auto const add = [&](auto record, auto load) {
             record->object_name = object_name;
             record->is_visible = is_visible;

@@ -27,14 +27,14 @@ void FlushToDisk(QByteArray const& path)
 {
 #ifdef Q_OS_UNIX
     int const file = ::open(path.constData(), O_RDONLY | O_CLOEXEC);
-    if (file < 0) {
-        throw std::system_error(errno, std::generic_category());
+    bool const is_flushed =
+        file >= 0 && (::fsync(file) == 0 || errno == EINVAL || errno == EROFS); // special files need not
+    int error = is_flushed ? 0 : errno;
+    if (file >= 0 && ::close(file) != 0 && error == 0) {
+        error = errno;
     }
-    int const result = ::fsync(file);
-    int const error = errno;
-    ::close(file);
-    if (result != 0 && error != EINVAL && error != EROFS) { // a special file need not support it
-        throw std::system_error(error, std::generic_category());
+    if (error != 0) {
+        throw std::system_error(error, std::generic_category(), "Unable to flush the file to the disk");
     }
 #else
     (void)path;
@@ -138,9 +138,18 @@ void QZ4SaveFile::SaveMagicWord(char const* word)
     SaveString(QString::fromLatin1(word));
 }
 
+std::streamoff QZ4SaveFile::GetPosition()
+{
+    std::streamoff const position = tellp();
+    if (position < 0) {
+        setstate(std::ios::badbit); // throws; the stream keeps this failure to itself
+    }
+    return position;
+}
+
 std::streamoff QZ4SaveFile::SaveAdditionalSettingsHeader(char const* tag)
 {
-    std::streamoff const start = tellp();
+    auto const start = GetPosition();
     SaveInt(0);
     SaveString(QString::fromLatin1(tag));
     return start;
@@ -148,7 +157,7 @@ std::streamoff QZ4SaveFile::SaveAdditionalSettingsHeader(char const* tag)
 
 void QZ4SaveFile::SaveSettingsSize(std::streamoff start)
 {
-    std::streamoff const end = tellp();
+    auto const end = GetPosition();
     seekp(start);
     SaveUnsignedInt(
         static_cast<std::uint32_t>(end - start)); // past 4 GiB the low bits, which readers of the tag ignore

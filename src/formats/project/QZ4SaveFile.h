@@ -104,6 +104,7 @@ private:
     }
     template <typename Payload>
     void SaveItem(char const* tag, Payload payload);
+    [[nodiscard]] std::streamoff GetPosition();
     void EndChain() { SaveByte(0); }
 
     void SaveZoneList(QList<Zone> const& zones);

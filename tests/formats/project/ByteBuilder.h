@@ -71,13 +71,20 @@ public:
     }
     ByteBuilder& Item(QByteArray const& tag, ByteBuilder const& payload)
     {
-        return U8(1).BareItem(tag, payload);
+        if (later.isEmpty()) {
+            return U8(1).BareItem(tag, payload);
+        }
+        return Raw(later).U8(1).BareItem(tag, ByteBuilder().Raw(payload).Raw("later")).Raw(later);
     }
     ByteBuilder& End() { return U8(0); }
     /// A chain of one item.
     ByteBuilder& Chain(QByteArray const& tag, ByteBuilder const& payload) { return Item(tag, payload).End(); }
 
     [[nodiscard]] QByteArray const& Bytes() const { return bytes_; }
+
+    /// An item that stands before and behind each other one, which then ends in further bytes: a file of a
+    /// later version.
+    inline static QByteArray later;
 
 private:
     ByteBuilder& Little(std::uint64_t value, int count)

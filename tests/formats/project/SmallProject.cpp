@@ -9,6 +9,10 @@
 
 #include <QPen>
 
+#include <array>
+#include <tuple>
+#include <type_traits>
+
 namespace {
 using B = ByteBuilder;
 
@@ -43,29 +47,26 @@ BaseLog::DataMatrix Columns()
             std::make_shared<std::vector<float>>(std::vector<float>{1.5F, -2, 3})};
 }
 
-void SetBase(VIEW_WIDGET_STRUCT& view, QString const& object_name, QString const& name, bool visible)
+/// Flags are the markers A and B and the baseline, where the view has them.
+template <typename Record>
+std::shared_ptr<Record> View(QString const& object_name, QString const& name, bool visible,
+                             std::array<bool, 3> const& flags = {})
 {
-    view.object_name = object_name;
-    view.name = name;
-    view.is_visible = visible;
+    auto view = std::make_shared<Record>();
+    view->object_name = object_name;
+    view->name = name;
+    view->is_visible = visible;
+    if constexpr (std::is_base_of_v<BASE_DATAVIEW_STRUCT, Record>) {
+        std::tie(view->show_markers_a, view->show_markers_b, view->show_baseline) = std::tuple_cat(flags);
+    }
+    return view;
 }
 
-void SetFlags(BASE_DATAVIEW_STRUCT& view, bool a, bool b, bool baseline)
-{
-    view.show_markers_a = a;
-    view.show_markers_b = b;
-    view.show_baseline = baseline;
-}
-
+/// With a reversed range.
 std::shared_ptr<ScaleItemParameters> Scale()
 {
-    auto scale = std::make_shared<ScaleItemParameters>();
-    scale->header = HeaderRow("GR", "GAPI", "", "g");
-    scale->index = 1;
-    scale->scale = Interval(150, 0.5); // reversed
-    scale->pen = Pen(QColor(9, 8, 7), 2, Qt::DotLine);
-    scale->is_selected = true;
-    return scale;
+    return std::make_shared<ScaleItemParameters>(ScaleItemParameters{
+        HeaderRow("GR", "GAPI", "", "g"), 1, Interval(150, 0.5), Pen(QColor(9, 8, 7), 2, Qt::DotLine), true});
 }
 
 B ScaleBytes()
@@ -118,10 +119,8 @@ void FillWell(DataContainer& container)
     container.SetMarkersB({DepthMarker(12.5F, "B1"), DepthMarker(-1, "")});
     PipeString casing("Casing", 120, false, {PipeComponent(9.625F, 8.5F, 47, 100.5, "joint")});
     casing.SetOuterCementData(90, 110, "good");
-    PipeStringData strings;
-    strings.SetPipeStringVector(
+    container.SetPipeStringData(
         {PipeString("Tubing", 80.25, true, {PipeComponent(4.5F, 3.958F, 12.75F, 80, "tbg")}), casing});
-    container.SetPipeStringData(strings);
 }
 } // namespace
 
@@ -158,8 +157,7 @@ void small_project::Fill(DataContainer& container)
         SURVEY_KEY, STORAGE_KEY,
         std::make_shared<StorageDataChannel>(
             DATA_STORAGE_CHANNEL_Struct{
-                "ST", HeaderRow("ST", "psi", "x", "y"),
-                DataChannelIdentifier(SURVEY_KEY, "DATA_STORAGE_IDENTIFIER", STORAGE_KEY)},
+                "ST", HeaderRow("ST", "psi", "x", "y"), {SURVEY_KEY, "DATA_STORAGE_IDENTIFIER", STORAGE_KEY}},
             false, -0.5F, 1.0F, storage_depths,
             std::make_shared<std::vector<float>>(std::vector<float>{7.5F, 8.5F})));
 }
@@ -173,42 +171,33 @@ project_file::ColumnWindowRecords small_project::Windows()
     window.view_count = 6;
     window.splitter_sizes = {10, 20, 30, 40, 50, 60};
 
-    auto automatic = std::make_shared<INTERMEDIATE_DATAVIEW_STRUCT>();
-    SetBase(*automatic, "VIEW_WIDGET_AUTOMATIC_DATAVIEW", "GR", true);
-    SetFlags(*automatic, true, false, false);
+    auto automatic = View<INTERMEDIATE_DATAVIEW_STRUCT>("VIEW_WIDGET_AUTOMATIC_DATAVIEW", "GR", true,
+                                                        {true, false, false});
     automatic->scales = {Scale()};
 
-    auto deviation = std::make_shared<BASE_DATAVIEW_STRUCT>();
-    SetBase(*deviation, "VIEW_WIDGET_DEVIATION_DATAVIEW", "Dev", false);
-    SetFlags(*deviation, false, true, false);
+    auto deviation =
+        View<BASE_DATAVIEW_STRUCT>("VIEW_WIDGET_DEVIATION_DATAVIEW", "Dev", false, {false, true, false});
 
-    auto user = std::make_shared<USER_DATAVIEW_STRUCT>();
-    SetBase(*user, "VIEW_WIDGET_USER_DATAVIEW", "User", true);
-    SetFlags(*user, false, false, true);
+    auto user = View<USER_DATAVIEW_STRUCT>("VIEW_WIDGET_USER_DATAVIEW", "User", true, {false, false, true});
     user->scales = {Scale()};
     user->curves = {DataChannelIdentifier(SURVEY_KEY, "aa", 1)};
-    FillAreaDefinition fill;
-    fill.name = "fill";
-    fill.curve_a = DataChannelIdentifier(SURVEY_KEY, "aa", 1);
-    fill.curve_b = DataChannelIdentifier(-1, "", -1);
-    fill.method = FILL_AREA_METHODS::A_LEFT_OF_VALUE;
-    fill.pattern = Qt::DiagCrossPattern;
-    fill.value = 33.5F;
-    fill.color = QColor(11, 12, 13);
-    user->fill_areas = {fill};
+    user->fill_areas = {{"fill",
+                         {SURVEY_KEY, "aa", 1},
+                         {-1, "", -1},
+                         33.5F,
+                         FILL_AREA_METHODS::A_LEFT_OF_VALUE,
+                         Qt::DiagCrossPattern,
+                         QColor(11, 12, 13)}};
 
-    auto image = std::make_shared<IMAGE_DATAVIEW_STRUCT>();
-    SetBase(*image, "VIEW_WIDGET_IMAGE_DATA_VIEW", "Img", true);
-    SetFlags(*image, true, true, true);
+    auto image = View<IMAGE_DATAVIEW_STRUCT>("VIEW_WIDGET_IMAGE_DATA_VIEW", "Img", true, {true, true, true});
     image->log_pass = LogPassIdentifier(SURVEY_KEY, "aa");
     image->mnemonic = "WF";
     image->scale_low = -0.25;
     image->scale_high = 8.125;
     image->color_scale_name = "Rainbow";
 
-    auto caliper = std::make_shared<MFC_DATAVIEW_STRUCT>();
-    SetBase(*caliper, "VIEW_WIDGET_MF_CALIPER_DATA_VIEW", "Cal", true);
-    SetFlags(*caliper, true, true, false);
+    auto caliper =
+        View<MFC_DATAVIEW_STRUCT>("VIEW_WIDGET_MF_CALIPER_DATA_VIEW", "Cal", true, {true, true, false});
     caliper->log_pass_hash = "aa";
     caliper->caliper_mnemonic = "CAL";
     caliper->center_scale = 2.5;
@@ -216,8 +205,7 @@ project_file::ColumnWindowRecords small_project::Windows()
     caliper->nominal_inner_diameter = 6.25;
     caliper->nominal_outer_diameter = 7;
 
-    auto sketch = std::make_shared<VIEW_WIDGET_STRUCT>();
-    SetBase(*sketch, "VIEW_WIDGET_WELL_SKETCH_VIEW", "Sketch", true);
+    auto sketch = View<VIEW_WIDGET_STRUCT>("VIEW_WIDGET_WELL_SKETCH_VIEW", "Sketch", true);
 
     window.views = {automatic, deviation, user, image, caliper, sketch};
     window.screens = {{"one", {{"GR", 10}, {"Sketch", 60}}}, {"two", {}}};

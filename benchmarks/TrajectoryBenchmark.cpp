@@ -8,7 +8,8 @@
 #include <random>
 
 namespace {
-/// A snaking well with a station every 5 to 15 m.
+/// A snaking well with a station every 5 to 15 m. The angles spread over the same range for any number of
+/// stations, since the time of a sine depends on its angle.
 DirectionalSurveyData MakeSurvey(int stations)
 {
     std::mt19937 generator(2);
@@ -17,7 +18,7 @@ DirectionalSurveyData MakeSurvey(int stations)
     items.reserve(stations);
     for (int i = 0; i < stations; ++i) {
         items.emplace_back(10.0F * static_cast<float>(i) + spread(generator),
-                           1.0F + static_cast<float>(i % 80), static_cast<float>(i % 300));
+                           1.0F + static_cast<float>(i * 37 % 80), static_cast<float>(i * 131 % 300));
     }
     return {items, {}};
 }

@@ -1,0 +1,1 @@
+quorrel_fuzz(ProjectFile quorrel_project)

@@ -72,9 +72,7 @@ private:
         auto const [stations, tie_in] = importer.GetInclinationSurvey();
         container_.SetTrajectorySurvey(stations, tie_in);
         container_.SetPerforationZones(importer.GetPerforaitons());
-        PipeStringData pipes;
-        pipes.SetPipeStringVector(importer.GetPipeStringVector());
-        container_.SetPipeStringData(pipes);
+        container_.SetPipeStringData(importer.GetPipeStringVector());
         // Perforations twice: as zones, and as holes in the sketch's wall.
         auto components = importer.GetMiscComponents();
         for (auto const& zone : importer.GetPerforaitons()) {

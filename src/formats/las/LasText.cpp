@@ -54,9 +54,10 @@ long long RoundedRowCount(double rows)
 std::string InvalidValueText(std::string_view word)
 {
     constexpr std::size_t longest_word = 1000;
+    std::string_view const shown = word.substr(0, longest_word);
     return " Invalid value in ASCII data-section of LAS-file. Only numeric values are allowed here. Consider "
            "replacing the invalid value with \"-999.25\" in a text editor and try again. Invalid value "
            "found: " +
-           std::string(word.substr(0, longest_word));
+           QString::fromLatin1(shown.data(), static_cast<qsizetype>(shown.size())).toStdString();
 }
 } // namespace Quorrel

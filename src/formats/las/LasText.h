@@ -22,6 +22,7 @@ namespace Quorrel {
 /// `rows` rounded to nearest as an integer: 0 for NaN, the greatest 64-bit number for anything beyond it.
 [[nodiscard]] long long RoundedRowCount(double rows);
 
-/// Refusal of a value that is no number in the data of a file. A word of extreme length is cut.
+/// Refusal of a value that is no number in the data of a file, in UTF-8; the word is in Latin-1 as in the
+/// file. One of extreme length is cut.
 [[nodiscard]] std::string InvalidValueText(std::string_view word);
 } // namespace Quorrel

@@ -75,7 +75,7 @@ void LasV3Reader::LoadSection(std::string const& section_line)
     QString const line =
         QString::fromLatin1(section_line.data(), static_cast<qsizetype>(section_line.size()));
     auto const name = [](QRegularExpressionMatch const& match, int group) {
-        return match.captured(group).toLatin1().toStdString();
+        return match.captured(group).toStdString();
     };
     if (auto const match = parameter_expression_.match(line); match.hasMatch()) {
         LoadParameterSection(name(match, 1));
@@ -109,11 +109,12 @@ void LasV3Reader::LoadParameterSection(std::string const& name)
 
 void LasV3Reader::ProcessParameterSection(HeaderSection const& section)
 {
-    auto const runs = section.GetParameterLine("RUNS");
-    if (runs && Quorrel::LenientNumber(runs->GetValue()) > 1.0) {
-        throw std::runtime_error(
-            "Quorrel only supports LAS V.3 files containing one run. Actual runs in file: " +
-            runs->GetValue().toStdString());
+    for (ParameterDataLine const& line : section) {
+        if (line.GetMnem() == QLatin1String("RUNS") && Quorrel::LenientNumber(line.GetValue()) > 1.0) {
+            throw std::runtime_error(
+                "Quorrel only supports LAS V.3 files containing one run. Actual runs in file: " +
+                line.GetValue().toStdString());
+        }
     }
 }
 

@@ -110,6 +110,8 @@ TEST(LASFileV3, RefusesBadSections)
 {
     EXPECT_EQ(Refusal(GoodFile("~Log_Parameter\nRUNS. 2 : runs\n")),
               "Quorrel only supports LAS V.3 files containing one run. Actual runs in file: 2");
+    EXPECT_EQ(Refusal(GoodFile("~Log_Parameter\nRUNS. 1 : a\nRUNS. 3 : b\n")),
+              "Quorrel only supports LAS V.3 files containing one run. Actual runs in file: 3");
     EXPECT_EQ(Refusal(GoodFile("~Log_Parameter\nRUNS. 1 : runs\n" + DEFINITION + DATA + ROWS)), "");
     std::string const string_format = "String format{S} for logging data-columns not supported";
     for (std::string const format : {"S", "S20", "AS", "AS;5"}) {
@@ -124,6 +126,11 @@ TEST(LASFileV3, RefusesBadSections)
               "LASDataFileMatrix LASFile::LoadDataSectionV3(std::ifstream&, std::string) Unknown definition "
               "for LAS v3 "
               "file: Curve");
+    // The file is in Latin-1, the message in UTF-8.
+    EXPECT_EQ(Refusal(GoodFile("~Log_Data | For\xEAt_Definition\n" + ROWS)),
+              "LASDataFileMatrix LASFile::LoadDataSectionV3(std::ifstream&, std::string) Unknown definition "
+              "for LAS v3 "
+              "file: For\u00EAt_Definition");
     EXPECT_THROW(Load("~V\nVERS. 3.0 :\n~W\nSTRT. 1 :\nSTOP. 1 :\n" + DEFINITION + DATA + ROWS),
                  std::bad_optional_access);
     EXPECT_EQ(Refusal(GoodFile("~Log_Definition\n" + DATA)).find("The definition section"), std::string::npos)
@@ -148,12 +155,12 @@ TEST(LASFileV3, RefusesBadRows)
     feet.replace(feet.find("DEPT.M"), 6, "DEPT.F");
     EXPECT_EQ(Refusal(feet),
               "At depth: 2.000000 - Expected STEP is: 0.500000 ft Actual STEP is: 1.000000 ft");
-    for (std::string const word : {"x", "1.5x", "nan", "inf", "1e999", "--1"}) {
+    for (std::string const word : {"x", "1.5x", "nan", "inf", "1e999", "--1", "5\xB5"}) {
         EXPECT_EQ(refusal("1.0 " + word + " 2.1\n"), " Invalid value in ASCII data-section of LAS-file. Only "
                                                      "numeric values are allowed here. Consider "
                                                      "replacing the invalid value with \"-999.25\" in a text "
                                                      "editor and try again. Invalid value found: " +
-                                                         word);
+                                                         QString::fromLatin1(word.c_str()).toStdString());
     }
 }
 

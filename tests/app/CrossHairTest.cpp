@@ -13,8 +13,6 @@
 #include <QScreen>
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
-
 // A move of the mouse repaints only the lines that change. Whatever the mouse did, the screen must show what
 // painting everything anew would show.
 

@@ -5,13 +5,14 @@
 
 #include "app/QuorrelFrame.h"
 
-#include "app/kit/SettingsSingleton.h"
+#include "display/BaseCombinedViewWidget.h"
+#include "display/ColumnWindow.h"
 #include "resources/Resources.h"
 #include "support/DialogAnswer.h"
+#include "support/NumberFormats.h"
 #include "support/TestFiles.h"
+#include "support/Texts.h"
 #include "support/WaitFor.h"
-
-#include <gtest/gtest.h>
 
 #include <QAction>
 #include <QComboBox>
@@ -53,19 +54,10 @@ protected:
         auto& settings = SettingsSingleton::Instance();
         settings.SetAutomaticCheckForUpdates(false);
         settings.SetIsMaximized(false);
-        settings.SetSeparatorSelection(US);
-        settings.SetMetricDepth(true);
         frame_ = std::make_unique<QuorrelFrame>();
         frame_->resize(1200, 800);
         frame_->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(frame_.get()));
-    }
-
-    void TearDown() override
-    {
-        frame_.reset();
-        SettingsSingleton::Instance().SetMetricDepth(false);
-        SettingsSingleton::Instance().SetSeparatorSelection(US);
     }
 
     QAction* Action(QString const& text)
@@ -76,6 +68,13 @@ protected:
     }
 
     QComboBox* PassComboBox() { return frame_->findChild<QComboBox*>("LogPassComboBox"); }
+
+    /// Names of the current column's views on screen, from left to right.
+    QStringList ShownViews()
+    {
+        return Texts(frame_->GetCurrentColumnWindow()->FindAllVisibleCombinedViewWidgets(),
+                     &BaseCombinedViewWidget::GetBaseViewWidgetName);
+    }
 
     /// Answers a file dialog with these files.
     static DialogAnswer::Answer ChooseFiles(QStringList const& paths)
@@ -103,6 +102,7 @@ protected:
         return {dialogs.GetTitles(), dialogs.GetMessages()};
     }
 
+    NumberFormatScope scope_; // in metres, ends after the frame
     test_files::Folder folder_;
     std::unique_ptr<QuorrelFrame> frame_;
 };

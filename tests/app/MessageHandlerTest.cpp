@@ -3,10 +3,7 @@
 
 #include "app/MessageHandler.h"
 
-#include <QString>
 #include <QTextStream>
-
-#include <gtest/gtest.h>
 
 namespace {
 QMessageLogContext const context("file.cpp", 42, "void f()", "default");

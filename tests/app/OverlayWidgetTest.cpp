@@ -10,10 +10,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QWheelEvent>
-
-#include <gtest/gtest.h>
 
 namespace {
 class InputCounter : public QWidget
@@ -35,35 +32,22 @@ QImage Grab(QWidget& widget)
 }
 } // namespace
 
-TEST(OverlayWidget, CoversItsParentAlsoAfterAResize)
-{
-    QWidget parent;
-    parent.resize(300, 200);
-    OverlayWidget const overlay(&parent);
-    EXPECT_EQ(overlay.geometry(), QRect(0, 0, 300, 200));
-    parent.resize(120, 90);
-    parent.show();
-    EXPECT_EQ(overlay.geometry(), QRect(QPoint(0, 0), parent.size()));
-}
-
-TEST(OverlayWidget, StaysOnTopOfLaterSiblings)
-{
-    QWidget parent;
-    auto* const overlay = new OverlayWidget(&parent);
-    new QWidget(&parent);
-    EXPECT_EQ(parent.children().last(), overlay);
-}
-
-TEST(OverlayWidget, FollowsItsParent)
+TEST(OverlayWidget, CoversItsParentAndNoOtherAndStaysOnTop)
 {
     QWidget first;
     QWidget second;
     first.resize(300, 200);
     second.resize(50, 60);
     OverlayWidget overlay(&first);
+    new QWidget(&first); // a later sibling
+    EXPECT_EQ(first.children().last(), &overlay);
+    EXPECT_EQ(overlay.geometry(), QRect(0, 0, 300, 200));
+    first.resize(120, 90);
+    first.show();
+    EXPECT_EQ(overlay.geometry(), QRect(QPoint(0, 0), first.size()));
+
     overlay.setParent(&second);
     EXPECT_EQ(overlay.size(), QSize(50, 60));
-    first.show();
     first.resize(310, 210);
     EXPECT_EQ(overlay.size(), QSize(50, 60));
     second.show();

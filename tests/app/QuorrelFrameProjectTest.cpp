@@ -5,7 +5,6 @@
 
 #include "app/BusyOverlay.h"
 #include "display/AutomaticDataView.h"
-#include "display/ColumnWindow.h"
 #include "display/CombinedDataViewWidget.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/UserDataView.h"
@@ -16,7 +15,6 @@
 #include <QInputDialog>
 #include <QListWidget>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QToolBar>
 
@@ -65,24 +63,7 @@ protected:
     QComboBox* Screens() { return frame_->findChild<QToolBar*>("Screens Toolbar")->findChild<QComboBox*>(); }
     QString Title() { return frame_->windowTitle().section("      ", 0, 0); }
 
-    /// Names of the views on screen, from left to right.
-    QStringList Shown()
-    {
-        QStringList names;
-        for (auto const* pair : Column().FindAllVisibleCombinedViewWidgets()) {
-            names << pair->GetBaseViewWidgetName();
-        }
-        return names;
-    }
-
-    static QStringList Texts(QComboBox const* box)
-    {
-        QStringList texts;
-        for (int i = 0; i < box->count(); ++i) {
-            texts << box->itemText(i);
-        }
-        return texts;
-    }
+    static QStringList Entries(QComboBox const* box) { return IndexedTexts(*box, &QComboBox::itemText); }
 
     [[nodiscard]] COLUMN_WINDOW_Struct Record(int key)
     {
@@ -148,15 +129,15 @@ TEST_F(QuorrelFrameProjectTest, ASavedProjectOpensAsItWas)
     EXPECT_EQ(Title(), "[p.qz4]") << "what was opened is not modified";
     EXPECT_EQ(SettingsSingleton::Instance().GetRecentFiles(), QStringList{path});
     EXPECT_EQ(frame_->GetWellName(), "A/B:1?");
-    EXPECT_EQ(Texts(frame_->findChild<QComboBox*>("SurveyComboBox")), (QStringList{"Run", "Empty"}));
+    EXPECT_EQ(Entries(frame_->findChild<QComboBox*>("SurveyComboBox")), (QStringList{"Run", "Empty"}));
     EXPECT_EQ(frame_->GetCurrentSurveyKey(), key);
     EXPECT_EQ(PassComboBox()->count(), 2);
     EXPECT_EQ(frame_->GetDepthLogPass(pass)->GetDepth().GetShift(), 1.5);
-    EXPECT_EQ(Shown(), (QStringList{"Mine", "Depth", "GR"}));
+    EXPECT_EQ(ShownViews(), (QStringList{"Mine", "Depth", "GR"}));
     EXPECT_EQ(Column().GetViewDepth(), before.view_depth_interval);
     EXPECT_EQ(Column().FindUserDataView("Mine")->GetSelectedScaleCurveInfo()->index, 1);
     EXPECT_EQ(Column().FindAllCombinedViewWidgets().size(), 6) << "the column's own views are not doubled";
-    EXPECT_EQ(Texts(Screens()), QStringList{"one"});
+    EXPECT_EQ(Entries(Screens()), QStringList{"one"});
     EXPECT_FALSE(Action("Undo View Change")->isEnabled());
 
     auto const again = folder_.Path("again.qz4");
@@ -314,8 +295,8 @@ TEST_F(QuorrelFrameProjectTest, ViewsAreRestoredAsTheProjectTells)
     frame_->findChild<QComboBox*>("SurveyComboBox")->setCurrentIndex(0);
     ASSERT_EQ(frame_->GetCurrentSurveyKey(), key);
 
-    EXPECT_TRUE(Shown().contains("Zones"));
-    EXPECT_FALSE(Shown().contains("MD"));
+    EXPECT_TRUE(ShownViews().contains("Zones"));
+    EXPECT_FALSE(ShownViews().contains("MD"));
     EXPECT_NE(Column().FindCombinedViewWidget("MD"), nullptr);
     EXPECT_TRUE(Column().FindUserDataView("GR")->IsEmpty());
     EXPECT_FALSE(Column().FindAllAutomaticDataViews().first()->IsEmpty());
@@ -388,7 +369,7 @@ TEST_F(QuorrelFrameProjectTest, ScreensAreKeptForEachSurvey)
     auto const key = frame_->AddNewSurvey("A");
     Import({folder_.Write("a.las", MakeLas())});
     Save(folder_.Path("s.qz4"));
-    EXPECT_TRUE(Texts(Screens()).isEmpty());
+    EXPECT_TRUE(Entries(Screens()).isEmpty());
     EXPECT_EQ(Screens()->windowTitle(), "Select stored screen");
 
     Column().UpdateVisibleViewWidgets({"GR", "Depth"});
@@ -400,28 +381,28 @@ TEST_F(QuorrelFrameProjectTest, ScreensAreKeptForEachSurvey)
         save(dialog, "A");
         save(dialog, ""); // stores nothing
     });
-    EXPECT_EQ(Texts(Screens()), (QStringList{"A", "B"}));
+    EXPECT_EQ(Entries(Screens()), (QStringList{"A", "B"}));
 
     auto const choose = [&](QString const& name) {
         Screens()->setCurrentText(name);
         emit Screens()->textActivated(name);
     };
     choose("B");
-    EXPECT_EQ(Shown(), (QStringList{"GR", "Depth"}));
+    EXPECT_EQ(ShownViews(), (QStringList{"GR", "Depth"}));
     Column().DeleteCustomDataView("Mine");
     choose("A");
-    EXPECT_EQ(Shown(), (QStringList{"Depth", "Zones"})) << "without the view that is gone";
+    EXPECT_EQ(ShownViews(), (QStringList{"Depth", "Zones"})) << "without the view that is gone";
     manage([&](QDialog* dialog) {
         select(dialog, 1);
         save(dialog, "B", "B");
     });
     choose("B");
-    EXPECT_EQ(Shown(), (QStringList{"Depth", "Zones"})) << "replaced";
+    EXPECT_EQ(ShownViews(), (QStringList{"Depth", "Zones"})) << "replaced";
 
     frame_->AddNewSurvey("other");
-    EXPECT_TRUE(Texts(Screens()).isEmpty());
+    EXPECT_TRUE(Entries(Screens()).isEmpty());
     frame_->findChild<QComboBox*>("SurveyComboBox")->setCurrentIndex(0);
-    EXPECT_EQ(Texts(Screens()), (QStringList{"A", "B"}));
+    EXPECT_EQ(Entries(Screens()), (QStringList{"A", "B"}));
     EXPECT_EQ(Screens()->currentText(), "B");
 
     // Screens that differ in nothing but widths, in a project that was opened.
@@ -435,7 +416,7 @@ TEST_F(QuorrelFrameProjectTest, ScreensAreKeptForEachSurvey)
     int const wide = width();
     Save(folder_.Path("s.qz4"));
     Open(folder_.Path("s.qz4"));
-    EXPECT_EQ(Texts(Screens()), (QStringList{"A", "B", "narrow", "wide"}));
+    EXPECT_EQ(Entries(Screens()), (QStringList{"A", "B", "narrow", "wide"}));
     EXPECT_EQ(Screens()->currentText(), "wide");
     EXPECT_NEAR(width(), wide, 2);
     choose("narrow");
@@ -450,6 +431,6 @@ TEST_F(QuorrelFrameProjectTest, ScreensAreKeptForEachSurvey)
         select(dialog, 2);
         press(dialog, "pb_delete", "Delete Selection");
     });
-    EXPECT_EQ(Texts(Screens()), (QStringList{"A", "B", "wide"}));
+    EXPECT_EQ(Entries(Screens()), (QStringList{"A", "B", "wide"}));
     EXPECT_EQ(Screens()->currentIndex(), -1) << "the present screen has no name any more";
 }

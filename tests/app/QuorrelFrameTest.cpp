@@ -4,44 +4,27 @@
 #include "app/FrameFixture.h"
 
 #include "app/kit/Quorrel.h"
-#include "display/BaseCombinedViewWidget.h"
 #include "display/BaseScaleView.h"
-#include "display/ColumnWindow.h"
 #include "display/ScrollAreaWrapper.h"
 #include "display/XYChart.h"
 #include "model/DepthLogPass.h"
 #include "model/ScaleItemParameters.h"
-#include "support/PrintQt.h"
 #include "well/DeviationDataView.h"
 
-#include <gmock/gmock.h>
-
 #include <QInputDialog>
-#include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
-#include <QThread>
 #include <QToolBar>
 
-namespace {
-class QuorrelFrameTest : public FrameFixture
-{
-};
-} // namespace
+using QuorrelFrameTest = FrameFixture;
 
 TEST_F(QuorrelFrameTest, MenusAndToolBarsStandInOrder)
 {
-    QStringList menus;
-    for (auto* action : frame_->menuBar()->actions()) {
-        menus << action->text();
-    }
-    EXPECT_EQ(menus, (QStringList{"&File", "&View", "&Edit", "&Help"}));
-    QStringList bars;
-    for (auto* bar : frame_->findChildren<QToolBar*>()) {
-        bars << bar->windowTitle();
-    }
-    EXPECT_EQ(bars, (QStringList{"File", "Zoom", "Screens Toolbar", "Settings", "Well", "Survey", "Passes",
-                                 "Multifinger Caliper", "Interpretation"}));
+    EXPECT_EQ(Texts(frame_->menuBar()->actions(), &QAction::text),
+              (QStringList{"&File", "&View", "&Edit", "&Help"}));
+    EXPECT_EQ(Texts(frame_->findChildren<QToolBar*>(), &QToolBar::windowTitle),
+              (QStringList{"File", "Zoom", "Screens Toolbar", "Settings", "Well", "Survey", "Passes",
+                           "Multifinger Caliper", "Interpretation"}));
     for (auto const* title :
          {"Passes", "Zoom", "Survey", "Interpretation", "Screens Toolbar", "Multifinger Caliper"}) {
         EXPECT_FALSE(frame_->findChild<QToolBar*>(title)->isEnabled()) << title;
@@ -287,33 +270,26 @@ TEST_F(QuorrelFrameTest, UndoAndRedoFollowTheCurrentColumn)
 
 TEST_F(QuorrelFrameTest, AWellShowsInEveryColumn)
 {
-    auto const first = frame_->AddNewSurvey("First");
-    frame_->AddNewSurvey("Second");
-    QList<QString> names;
-    for (auto const* pair : frame_->GetCurrentColumnWindow()->FindAllVisibleCombinedViewWidgets()) {
-        names << pair->GetBaseViewWidgetName();
-    }
-    EXPECT_EQ(names, QList<QString>({"Depth", "Zones", "Deviation", "Well Sketch"}));
+    int const first = frame_->AddNewSurvey("First");
+    int const second = frame_->AddNewSurvey("Second");
+    EXPECT_EQ(ShownViews(), QStringList({"Depth", "Zones", "Deviation", "Well Sketch"}));
     EXPECT_EQ(frame_->GetCurrentColumnWindow()->GetTotalDisplayedInterval(), Interval(0, 5000));
 
     frame_->SetTrajectorySurvey({{0, 0, 0}, {1000, 0, 0}}, {});
     frame_->SetPipeStringData({{"Casing", 2000, false, {{10, 9, 40, 2000, "casing"}}}});
     frame_->RedrawAllColumnWindows();
-    for (int const key : {static_cast<int>(first), static_cast<int>(frame_->GetCurrentSurveyKey())}) {
-        auto const column = frame_->GetColumnWindow(key);
-        EXPECT_EQ(column->GetTotalDisplayedInterval(), Interval(-1, 2001)) << key;
-        auto const* deviation = qobject_cast<DeviationDataView*>(
-            column->FindCombinedViewWidget("Deviation")->GetBaseViewWidget());
-        ASSERT_NE(deviation, nullptr);
-        EXPECT_EQ(deviation->GetScales().size(), 2U);
-        EXPECT_EQ(column->FindCombinedViewWidget("Deviation")->GetBaseScaleView()->GetScaleCount(), 2);
+    auto const deviation_of = [this](int key) {
+        return frame_->GetColumnWindow(key)->FindCombinedViewWidget("Deviation");
+    };
+    for (int const key : {first, second}) {
+        EXPECT_EQ(frame_->GetColumnWindow(key)->GetTotalDisplayedInterval(), Interval(-1, 2001)) << key;
+        EXPECT_EQ(deviation_of(key)->GetBaseScaleView()->GetScaleCount(), 2);
     }
-    // A change of unit reaches the columns that are not shown too.
     frame_->OnIsMetricDepthToggled(false);
-    for (int const key : {static_cast<int>(first), static_cast<int>(frame_->GetCurrentSurveyKey())}) {
-        auto const* deviation = qobject_cast<DeviationDataView*>(
-            frame_->GetColumnWindow(key)->FindCombinedViewWidget("Deviation")->GetBaseViewWidget());
-        EXPECT_EQ(deviation->GetScales().at(1)->header.unit, "ft");
+    for (int const key : {first, second}) {
+        auto const* deviation = qobject_cast<DeviationDataView*>(deviation_of(key)->GetBaseViewWidget());
+        ASSERT_EQ(deviation->GetScales().size(), 2U);
+        EXPECT_EQ(deviation->GetScales()[1]->header.unit, "ft") << "also in the column that is not shown";
     }
 }
 

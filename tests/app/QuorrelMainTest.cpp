@@ -2,14 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/kit/SettingsKeys.h"
+#include "support/Programs.h"
 
-#include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace settings_keys;
 
@@ -18,24 +15,9 @@ namespace {
 class Program : public ::testing::Test
 {
 protected:
-    struct Result
+    ProgramOutcome Run(QStringList const& arguments) const
     {
-        int exit_code;
-        QString output;
-    };
-
-    Result Run(QStringList const& arguments) const
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_CONFIG_HOME", home.path());
-        environment.insert("QT_QPA_PLATFORM", "offscreen");
-        process.setProcessEnvironment(environment);
-        process.setWorkingDirectory(home.path());
-        process.start(QStringLiteral(QUORREL_MAIN_PROGRAM), arguments);
-        EXPECT_TRUE(process.waitForFinished(120000)) << process.errorString().toStdString();
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << process.readAllStandardError().toStdString();
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput())};
+        return RunProgram(QUORREL_MAIN_PROGRAM, arguments, home.path());
     }
 
     [[nodiscard]] std::unique_ptr<QSettings> Store() const
@@ -49,7 +31,7 @@ protected:
 
 TEST_F(Program, HelpNamesTheArguments)
 {
-    Result const help = Run({"--help"});
+    ProgramOutcome const help = Run({"--help"});
     EXPECT_EQ(help.exit_code, 0);
     for (char const* text : {"Test helper", "-h, --help", "-v, --version", "-r, --reset", "Reset settings",
                              "qz4_file", "QZ4 file to load"}) {
@@ -61,7 +43,7 @@ TEST_F(Program, HelpNamesTheArguments)
 
 TEST_F(Program, AFirstStartIsMaximisedAndLeavesAllSettings)
 {
-    Result const result = Run({});
+    ProgramOutcome const result = Run({});
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_EQ(result.output, "window MainWindow maximised\n");
     auto const store = Store();
@@ -83,7 +65,7 @@ TEST_F(Program, ResetClearsTheSettingsAndAMissingProjectStillOpensTheWindow)
     Store()->setValue(MATH_EQUATION_KEY, "A-B");
     Store()->setValue(IS_MAXIMIZED, false);
     Store()->setValue("unknown", 1);
-    Result const result = Run({"--reset", home.filePath("missing.qz4"), "second.qz4"});
+    ProgramOutcome const result = Run({"--reset", home.filePath("missing.qz4"), "second.qz4"});
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_TRUE(result.output.endsWith("window MainWindow maximised\n")) << result.output.toStdString();
     EXPECT_EQ(Store()->value(MATH_EQUATION_KEY), "A+B");

@@ -6,8 +6,9 @@
 #include "app/ColorPicker.h"
 #include "app/MfcSettingsWidget.h"
 #include "app/kit/SettingsSingleton.h"
+#include "support/DialogAnswer.h"
+#include "support/Texts.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
@@ -19,9 +20,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
-#include <QTimer>
-
-#include <gtest/gtest.h>
 
 namespace {
 class Settings : public ::testing::Test
@@ -52,17 +50,23 @@ protected:
         Find<QPushButton>(dialog, "insert_mnem")->click();
     }
 
+    static QStringList Mnems(QWidget& parent)
+    {
+        return IndexedTexts(*Find<QListWidget>(parent, "mfc_mnems"),
+                            [](QListWidget const& list, int row) { return list.item(row)->text(); });
+    }
+
+    /// What the dialog sets, but for the number format.
+    [[nodiscard]] auto Stored() const
+    {
+        return std::tuple(settings.IsMetricDepth(), settings.GetBackgroundColor().name(),
+                          settings.GetSplitterHandleColor(), settings.GetOverrideDefaultSplitterHandleColor(),
+                          settings.GetAutomaticCheckForUpdates(), settings.GetDisplayMfcWindows(),
+                          settings.GetMfcMnems());
+    }
+
     SettingsSingleton& settings = SettingsSingleton::Instance();
 };
-
-QStringList Texts(QListWidget const& list)
-{
-    QStringList result;
-    for (int row = 0; row < list.count(); ++row) {
-        result.append(list.item(row)->text());
-    }
-    return result;
-}
 } // namespace
 
 TEST_F(Settings, DialogNamesItsTabsAndChoices)
@@ -71,23 +75,12 @@ TEST_F(Settings, DialogNamesItsTabsAndChoices)
     EXPECT_EQ(dialog.windowTitle(), "Application Settings");
     EXPECT_EQ(dialog.objectName(), "SettingsDialog");
     EXPECT_EQ(SettingsDialog::SPACE_SEPARATOR_DISPLAY, "(space)");
-    auto const* const tabs = dialog.findChild<QTabWidget*>();
-    QStringList titles;
-    for (int i = 0; i < tabs->count(); ++i) {
-        titles.append(tabs->tabText(i));
-    }
-    EXPECT_EQ(titles, (QStringList{"Separators", "Units", "Misc", "MF Cal."}));
+    EXPECT_EQ(IndexedTexts(*dialog.findChild<QTabWidget*>(), &QTabWidget::tabText),
+              (QStringList{"Separators", "Units", "Misc", "MF Cal."}));
 
-    QStringList texts;
-    for (auto const* button : dialog.findChildren<QAbstractButton*>()) {
-        texts.append(button->text());
-    }
-    for (auto const* label : dialog.findChildren<QLabel*>()) {
-        texts.append(label->text());
-    }
-    for (auto const* group : dialog.findChildren<QGroupBox*>()) {
-        texts.append(group->title());
-    }
+    QStringList const texts = Texts(dialog.findChildren<QAbstractButton*>(), &QAbstractButton::text) +
+                              Texts(dialog.findChildren<QLabel*>(), &QLabel::text) +
+                              Texts(dialog.findChildren<QGroupBox*>(), &QGroupBox::title);
     for (char const* text :
          {"US", "1,234,567.89", "International", "1.234.567,89", "Alternative International", "1 234 567,89",
           "Depth Unit", "View-Widget Background Color", "Splitter Handle Color (applys after restart)",
@@ -133,15 +126,13 @@ TEST_F(Settings, AcceptStoresEverythingBeforeItTellsAndCloses)
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
 
     EXPECT_EQ(settings.GetSeparatorSelection(), AlternativeInternational);
-    EXPECT_EQ(settings.GetBackgroundColor(), QColor(10, 20, 30));
-    EXPECT_EQ(settings.GetSplitterHandleColor(), "#a1b2c3");
-    EXPECT_FALSE(settings.GetAutomaticCheckForUpdates());
-    EXPECT_TRUE(settings.GetDisplayMfcWindows());
-    EXPECT_EQ(settings.GetMfcMnems(), (QStringList{"ARM", "CRAD[", "FING", "R", "RADI["}));
+    EXPECT_EQ(Stored(), std::tuple(true, "#0a141e", "#a1b2c3", true, false, true,
+                                   QStringList{"ARM", "CRAD[", "FING", "R", "RADI["}));
 }
 
 TEST_F(Settings, CancelChangesNothing)
 {
+    auto const before = Stored();
     SettingsDialog dialog;
     ChangeAll(dialog);
     bool told = false;
@@ -149,19 +140,11 @@ TEST_F(Settings, CancelChangesNothing)
     dialog.reject();
     EXPECT_FALSE(told);
     EXPECT_EQ(settings.GetSeparatorSelection(), US);
-    EXPECT_FALSE(settings.IsMetricDepth());
-    EXPECT_EQ(settings.GetBackgroundColor(), QColor(Qt::black));
-    EXPECT_EQ(settings.GetSplitterHandleColor(), "000000");
-    EXPECT_TRUE(settings.GetAutomaticCheckForUpdates());
-    EXPECT_EQ(settings.GetMfcMnems(), SettingsSingleton::GetDefaultMfcMnems());
-}
+    EXPECT_EQ(Stored(), before);
 
-TEST_F(Settings, AnUnknownSelectionSurvivesTheDialog)
-{
     settings.SetSeparatorSelection(static_cast<Separator_Selection>(7));
-    SettingsDialog dialog;
-    dialog.accept();
-    EXPECT_EQ(settings.GetSeparatorSelection(), 7);
+    SettingsDialog().accept();
+    EXPECT_EQ(settings.GetSeparatorSelection(), 7) << "an unknown selection survives the dialog";
 }
 
 TEST_F(Settings, MnemonicsAreInsertedOnceTrimmedAndSorted)
@@ -170,14 +153,14 @@ TEST_F(Settings, MnemonicsAreInsertedOnceTrimmedAndSorted)
     auto* const list = Find<QListWidget>(widget, "mfc_mnems");
     auto* const edit = Find<QLineEdit>(widget, "new_mnem");
     QStringList const sorted_defaults{"CRAD[", "FING", "R", "RADI["};
-    EXPECT_EQ(Texts(*list), sorted_defaults);
+    EXPECT_EQ(Mnems(widget), sorted_defaults);
 
     for (char const* text : {"  MID ", "MID", "", "   "}) {
         edit->setText(text);
         widget.OnInsert();
         EXPECT_EQ(edit->text(), "");
     }
-    EXPECT_EQ(Texts(*list), (QStringList{"CRAD[", "FING", "MID", "R", "RADI["}));
+    EXPECT_EQ(Mnems(widget), (QStringList{"CRAD[", "FING", "MID", "R", "RADI["}));
 
     list->setCurrentRow(1);
     widget.OnDelete();
@@ -203,7 +186,7 @@ TEST_F(Settings, ReturnInTheMnemonicFieldInsertsAndKeepsTheDialogOpen)
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
     QApplication::sendEvent(edit, &press);
     EXPECT_TRUE(dialog.isVisible());
-    EXPECT_TRUE(Texts(*Find<QListWidget>(dialog, "mfc_mnems")).contains("ARM"));
+    EXPECT_TRUE(Mnems(dialog).contains("ARM"));
 }
 
 TEST_F(Settings, ColorPickerTakesTheChosenColorOnly)
@@ -213,12 +196,10 @@ TEST_F(Settings, ColorPickerTakesTheChosenColorOnly)
     QObject::connect(&picker, &ColorPicker::ColorChanged_Signal,
                      [&](QColor const& color) { changes.append(color); });
     auto const answer = [&picker](QColor const& color, bool accept) {
-        QTimer::singleShot(0, [color, accept] {
-            auto* const dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            dialog->setCurrentColor(color);
+        DialogAnswer const dialogs({[color, accept](QDialog* dialog) {
+            qobject_cast<QColorDialog*>(dialog)->setCurrentColor(color);
             accept ? dialog->accept() : dialog->reject();
-        });
+        }});
         picker.click();
     };
     answer(Qt::blue, false);

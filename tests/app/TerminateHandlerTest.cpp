@@ -1,23 +1,15 @@
 // SPDX-FileCopyrightText: The Quorrel authors
 // SPDX-License-Identifier: MIT
 
-#include <QProcess>
-#include <QString>
+#include "support/Programs.h"
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
 #include <typeinfo>
 
 namespace {
 /// Standard output of a process that ended by the handler.
 QString OutputOf(QString const& how)
 {
-    QProcess process;
-    process.start(QStringLiteral(QUORREL_TERMINATE_PROGRAM), {how});
-    EXPECT_TRUE(process.waitForFinished(60000)) << process.errorString().toStdString();
-    EXPECT_EQ(process.exitStatus(), QProcess::CrashExit) << how.toStdString();
-    return QString::fromLocal8Bit(process.readAllStandardOutput());
+    return RunProgram(QUORREL_TERMINATE_PROGRAM, {how}, {}, QProcess::CrashExit).output;
 }
 } // namespace
 

@@ -11,266 +11,203 @@
 #include <QCoreApplication>
 #include <QThread>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <functional>
-
-using ::testing::_;
-using ::testing::InSequence;
-
 namespace {
-class MockTarget : public UndoTarget
+/// Writes down what undo and redo do, and applies depth corrections to a depth axis where it has one.
+class Target final : public UndoTarget
 {
 public:
-    MOCK_METHOD(void, SetVisibleDepthInterval, (Interval const&), (override));
-    MOCK_METHOD(void, SetDataViewScale, (QString const&, DataChannelIdentifier const&, Interval const&),
-                (override));
-    MOCK_METHOD(void, EmitApplyShift, (DataChannelIdentifier const&, float), (override));
-    MOCK_METHOD(void, EmitApplyStretch, (DataChannelIdentifier const&, float, float, float), (override));
-    MOCK_METHOD(void, RefreshDataViews, (), (override));
-};
-
-using StrictTarget = ::testing::StrictMock<MockTarget>;
-
-/// Applies depth corrections to a real depth axis.
-class DepthTarget : public ::testing::NiceMock<MockTarget>
-{
-public:
-    explicit DepthTarget(DepthChannel& depths) : depths_(depths) {}
-    void EmitApplyShift(DataChannelIdentifier const&, float shift) override
+    void SetVisibleDepthInterval(Interval const& interval) override { Log("view %1", interval); }
+    void SetDataViewScale(QString const& view, DataChannelIdentifier const& identifier,
+                          Interval const& interval) override
     {
-        depths_.ApplyShift(static_cast<double>(shift));
+        EXPECT_EQ(identifier, channel);
+        Log(view + " %1", interval);
     }
-    void EmitApplyStretch(DataChannelIdentifier const&, float start, float drag, float anchor) override
+    void EmitApplyShift(DataChannelIdentifier const& identifier, float shift) override
     {
-        depths_.ApplyStretch(static_cast<double>(start), static_cast<double>(drag),
-                             static_cast<double>(anchor));
+        EXPECT_EQ(identifier, channel);
+        log_ << QString("shift %1").arg(shift);
+        if (depths != nullptr) {
+            depths->ApplyShift(static_cast<double>(shift));
+        }
     }
+    void EmitApplyStretch(DataChannelIdentifier const& identifier, float start, float drag,
+                          float anchor) override
+    {
+        EXPECT_EQ(identifier, channel);
+        log_ << QString("stretch %1 to %2 about %3").arg(start).arg(drag).arg(anchor);
+        if (depths != nullptr) {
+            depths->ApplyStretch(static_cast<double>(start), static_cast<double>(drag),
+                                 static_cast<double>(anchor));
+        }
+    }
+    void RefreshDataViews() override { log_ << "refresh"; }
+
+    /// What came since the last call.
+    [[nodiscard]] QString Take() { return std::exchange(log_, {}).join(", "); }
+
+    DataChannelIdentifier const channel{3, QStringLiteral("0123abcd"), 2};
+    DepthChannel* depths = nullptr;
 
 private:
-    DepthChannel& depths_;
+    void Log(QString const& text, Interval const& interval)
+    {
+        log_ << text.arg(QString("%1-%2").arg(interval.lower).arg(interval.upper));
+    }
+
+    QStringList log_;
 };
 
-DataChannelIdentifier const gamma_ray(3, QStringLiteral("0123abcd"), 2);
 Interval const first(0, 100);
 Interval const second(20, 60);
 Interval const third(30, 40);
 
-/// The emitted statuses as text: "u-" undo only, "ur" both and so on.
-class StatusLog
+class UndoRedoTest : public ::testing::Test
 {
-public:
-    explicit StatusLog(UndoRedo& undo)
+protected:
+    UndoRedoTest()
     {
-        QObject::connect(&undo, &UndoRedo::UpdateUndoRedoStatus_Signal, &receiver_,
-                         [this](bool can_undo, bool can_redo) {
-                             log_ += QStringLiteral("%1%2 ").arg(can_undo ? "u" : "-", can_redo ? "r" : "-");
-                         });
+        QObject::connect(&undo, &UndoRedo::UpdateUndoRedoStatus_Signal, [this](bool can_undo, bool can_redo) {
+            status_ << QStringLiteral("%1%2").arg(can_undo ? "u" : "-", can_redo ? "r" : "-");
+        });
     }
-    [[nodiscard]] QString Take() { return std::exchange(log_, QString()).trimmed(); }
+    ~UndoRedoTest() override { EXPECT_EQ(target.Take(), "") << "recording has no effect of its own"; }
+
+    void Zoom(Interval const& from, Interval const& to) { undo.InsertVerticalZoomCommand(&target, from, to); }
+    QString Undo()
+    {
+        undo.Undo();
+        return target.Take();
+    }
+    QString Redo()
+    {
+        undo.Redo();
+        return target.Take();
+    }
+    /// The emitted statuses: "u-" undo only, "ur" both and so on.
+    QString Status() { return std::exchange(status_, {}).join(' '); }
+
+    Target target;
+    UndoRedo undo{&target};
 
 private:
-    QObject receiver_;
-    QString log_;
+    QStringList status_;
 };
 } // namespace
 
-TEST(UndoRedo, EmptyListsAreSilent)
+TEST_F(UndoRedoTest, EmptyListsAreSilent)
 {
-    StrictTarget target;
-    UndoRedo undo(&target);
-    StatusLog status(undo);
-    undo.Undo();
-    undo.Redo();
-    EXPECT_EQ(status.Take(), "");
+    EXPECT_EQ(Undo() + Redo() + Status(), "");
     EXPECT_FALSE(undo.UndoAvailable());
     EXPECT_FALSE(undo.RedoAvailable());
     undo.UpdateButtons();
-    EXPECT_EQ(status.Take(), "--");
+    EXPECT_EQ(Status(), "--");
 }
 
-TEST(UndoRedo, EachCommandReversesAndRepeats)
+TEST_F(UndoRedoTest, EachCommandReversesAndRepeats)
 {
-    struct Case
-    {
-        std::function<void(UndoRedo&, UndoTarget&)> insert;
-        std::function<void(MockTarget&)> expect_undo, expect_redo;
-    };
-    Case const cases[] = {
-        {[](UndoRedo& undo, UndoTarget& target) { undo.InsertVerticalZoomCommand(&target, first, second); },
-         [](MockTarget& target) { EXPECT_CALL(target, SetVisibleDepthInterval(first)); },
-         [](MockTarget& target) { EXPECT_CALL(target, SetVisibleDepthInterval(second)); }},
-        {[](UndoRedo& undo, UndoTarget& target) {
-             undo.InsertHorizontalZoomCommand(&target, "Track 1", gamma_ray, first, second);
-         },
-         [](MockTarget& target) {
-             EXPECT_CALL(target, SetDataViewScale(QString("Track 1"), gamma_ray, first));
-         },
-         [](MockTarget& target) {
-             EXPECT_CALL(target, SetDataViewScale(QString("Track 1"), gamma_ray, second));
-         }},
-        {[](UndoRedo& undo, UndoTarget& target) { undo.InsertShiftCommand(&target, gamma_ray, 1.5F); },
-         [](MockTarget& target) {
-             EXPECT_CALL(target, EmitApplyShift(gamma_ray, -1.5F));
-             EXPECT_CALL(target, RefreshDataViews());
-         },
-         [](MockTarget& target) {
-             EXPECT_CALL(target, EmitApplyShift(gamma_ray, 1.5F));
-             EXPECT_CALL(target, RefreshDataViews());
-         }},
-        // From 1000 m dragged to 1010 m: the reverse drags to 990 m.
-        {[](UndoRedo& undo, UndoTarget& target) {
-             undo.InsertStretchCommand(&target, gamma_ray, 1000.0F, 1010.0F, 500.0F);
-         },
-         [](MockTarget& target) {
-             EXPECT_CALL(target, EmitApplyStretch(gamma_ray, 1000.0F, 990.0F, 500.0F));
-             EXPECT_CALL(target, RefreshDataViews());
-         },
-         [](MockTarget& target) {
-             EXPECT_CALL(target, EmitApplyStretch(gamma_ray, 1000.0F, 1010.0F, 500.0F));
-             EXPECT_CALL(target, RefreshDataViews());
-         }}};
-    for (Case const& c : cases) {
-        StrictTarget target;
-        UndoRedo undo(&target);
-        c.insert(undo, target); // recording has no effect of its own
-        {
-            InSequence const order;
-            c.expect_undo(target);
-        }
-        undo.Undo();
-        ::testing::Mock::VerifyAndClearExpectations(&target);
-        {
-            InSequence const order;
-            c.expect_redo(target);
-        }
-        undo.Redo();
-    }
+    Zoom(first, second);
+    EXPECT_EQ(Undo(), "view 0-100");
+    EXPECT_EQ(Redo(), "view 20-60");
+    undo.InsertHorizontalZoomCommand(&target, "Track 1", target.channel, first, second);
+    EXPECT_EQ(Undo(), "Track 1 0-100");
+    EXPECT_EQ(Redo(), "Track 1 20-60");
+    undo.InsertShiftCommand(&target, target.channel, 1.5F);
+    EXPECT_EQ(Undo(), "shift -1.5, refresh");
+    EXPECT_EQ(Redo(), "shift 1.5, refresh");
+    undo.InsertStretchCommand(&target, target.channel, 1000, 1010, 500);
+    EXPECT_EQ(Undo(), "stretch 1000 to 990 about 500, refresh") << "dragged to the other side";
+    EXPECT_EQ(Redo(), "stretch 1000 to 1010 about 500, refresh");
+    undo.InsertVerticalZoomCommand(nullptr, third, first); // no target stands for the owner
+    EXPECT_EQ(Undo(), "view 30-40");
 }
 
-TEST(UndoRedo, StatusFollowsEveryStep)
+TEST_F(UndoRedoTest, StatusFollowsEveryStep)
 {
-    ::testing::NiceMock<MockTarget> target;
-    UndoRedo undo(&target);
-    StatusLog status(undo);
-    undo.InsertVerticalZoomCommand(&target, first, second);
-    undo.InsertVerticalZoomCommand(&target, second, third);
-    EXPECT_EQ(status.Take(), "u- u-");
-    undo.Undo();
-    undo.Undo();
-    EXPECT_EQ(status.Take(), "ur -r");
-    undo.Redo();
-    EXPECT_EQ(status.Take(), "ur");
-    undo.InsertVerticalZoomCommand(&target, second, first); // a new command empties the redo list
-    EXPECT_EQ(status.Take(), "u-");
+    Zoom(first, second);
+    Zoom(second, third);
+    EXPECT_EQ(Status(), "u- u-");
+    EXPECT_EQ(Undo(), "view 20-60");
+    EXPECT_EQ(Undo(), "view 0-100");
+    EXPECT_EQ(Status(), "ur -r");
+    EXPECT_EQ(Redo(), "view 20-60");
+    EXPECT_EQ(Status(), "ur");
+    Zoom(second, first); // a new command empties the redo list
+    EXPECT_EQ(Status(), "u-");
     EXPECT_FALSE(undo.RedoAvailable());
-    EXPECT_CALL(target, SetVisibleDepthInterval(_)).Times(0);
-    undo.Redo();
+    EXPECT_EQ(Redo(), "");
 }
 
-TEST(UndoRedo, ABatchIsOneStepBothWays)
+TEST_F(UndoRedoTest, ABatchIsOneStepBothWays)
 {
-    StrictTarget target;
-    UndoRedo undo(&target);
-    undo.InsertVerticalZoomCommand(&target, first, second);
+    Zoom(first, second);
     undo.StartBatch();
-    undo.InsertVerticalZoomCommand(&target, second, third);
-    undo.InsertShiftCommand(&target, gamma_ray, 2.0F);
+    Zoom(second, third);
+    undo.InsertShiftCommand(&target, target.channel, 2.0F);
     undo.StopBatch();
-
     for (int round = 0; round < 2; ++round) {
-        {
-            InSequence const newest_first;
-            EXPECT_CALL(target, EmitApplyShift(gamma_ray, -2.0F));
-            EXPECT_CALL(target, RefreshDataViews());
-            EXPECT_CALL(target, SetVisibleDepthInterval(second));
-        }
-        undo.Undo();
-        EXPECT_TRUE(undo.UndoAvailable()); // the command before the batch
-        ::testing::Mock::VerifyAndClearExpectations(&target);
-        {
-            InSequence const oldest_first;
-            EXPECT_CALL(target, SetVisibleDepthInterval(third));
-            EXPECT_CALL(target, EmitApplyShift(gamma_ray, 2.0F));
-            EXPECT_CALL(target, RefreshDataViews());
-        }
-        undo.Redo();
+        EXPECT_EQ(Undo(), "shift -2, refresh, view 20-60") << "the newest first";
+        EXPECT_TRUE(undo.UndoAvailable()) << "the command before the batch";
+        EXPECT_EQ(Redo(), "view 30-40, shift 2, refresh") << "the oldest first";
         EXPECT_FALSE(undo.RedoAvailable());
-        ::testing::Mock::VerifyAndClearExpectations(&target);
     }
 }
 
-TEST(UndoRedo, AnEmptyBatchIsAStepWithoutEffect)
+TEST_F(UndoRedoTest, AnEmptyBatchIsAStepWithoutEffect)
 {
-    StrictTarget target;
-    UndoRedo undo(&target);
-    undo.InsertVerticalZoomCommand(&target, first, second);
+    Zoom(first, second);
     undo.StartBatch();
     undo.StopBatch();
-    undo.Undo();
+    EXPECT_EQ(Undo(), "");
     EXPECT_TRUE(undo.UndoAvailable());
     EXPECT_TRUE(undo.RedoAvailable());
-    EXPECT_CALL(target, SetVisibleDepthInterval(first));
-    undo.Undo();
+    EXPECT_EQ(Undo(), "view 0-100");
 }
 
-TEST(UndoRedo, AStopWithoutAStartTakesNothingIn)
+TEST_F(UndoRedoTest, AStopWithoutAStartTakesNothingIn)
 {
-    ::testing::NiceMock<MockTarget> target;
-    UndoRedo undo(&target);
-    undo.InsertVerticalZoomCommand(&target, first, second);
-    undo.InsertVerticalZoomCommand(&target, second, third);
+    Zoom(first, second);
+    Zoom(second, third);
     {
         DisableToken const token = undo.GetDisableToken();
         undo.StartBatch();
     }
     undo.StopBatch();
-    EXPECT_CALL(target, SetVisibleDepthInterval(second));
-    undo.Undo();
+    EXPECT_EQ(Undo(), "view 20-60");
     EXPECT_TRUE(undo.UndoAvailable());
 }
 
-TEST(UndoRedo, UndoInsideABatchDoesNotReachBelowIt)
+TEST_F(UndoRedoTest, UndoInsideABatchDoesNotReachBelowIt)
 {
-    ::testing::NiceMock<MockTarget> target;
-    UndoRedo undo(&target);
-    undo.InsertVerticalZoomCommand(&target, first, second);
+    Zoom(first, second);
     undo.StartBatch();
-    undo.Undo();
+    Undo();
     undo.StopBatch();
-    EXPECT_CALL(target, SetVisibleDepthInterval(_)).Times(0);
-    undo.Undo();
+    EXPECT_EQ(Undo(), "");
     EXPECT_FALSE(undo.UndoAvailable());
 }
 
-TEST(UndoRedo, RecordsNothingWhileATokenIsHeld)
+TEST_F(UndoRedoTest, RecordsNothingWhileATokenIsHeld)
 {
-    StrictTarget target;
-    UndoRedo undo(&target);
-    StatusLog status(undo);
     {
         DisableToken const token = undo.GetDisableToken();
         DisableToken copy = token;
         EXPECT_TRUE(copy.IsDisabled());
         undo.StartBatch();
-        undo.InsertVerticalZoomCommand(&target, first, second);
-        undo.InsertHorizontalZoomCommand(&target, "Track 1", gamma_ray, first, second);
-        undo.InsertShiftCommand(&target, gamma_ray, 1.0F);
-        undo.InsertStretchCommand(&target, gamma_ray, 1.0F, 2.0F, 3.0F);
+        Zoom(first, second);
+        undo.InsertHorizontalZoomCommand(&target, "Track 1", target.channel, first, second);
+        undo.InsertShiftCommand(&target, target.channel, 1.0F);
+        undo.InsertStretchCommand(&target, target.channel, 1.0F, 2.0F, 3.0F);
         undo.StopBatch();
     }
-    EXPECT_EQ(status.Take(), "");
+    EXPECT_EQ(Status(), "");
     EXPECT_FALSE(undo.UndoAvailable());
-    undo.InsertVerticalZoomCommand(&target, first, second);
+    Zoom(first, second);
     EXPECT_TRUE(undo.UndoAvailable());
 }
 
-TEST(UndoRedo, ATokenInAQueuedCallHoldsUntilItIsDelivered)
+TEST_F(UndoRedoTest, ATokenInAQueuedCallHoldsUntilItIsDelivered)
 {
-    StrictTarget target;
-    UndoRedo undo(&target);
     QObject receiver;
     bool disabled_on_delivery = false;
     std::unique_ptr<QThread> const worker(
@@ -281,44 +218,29 @@ TEST(UndoRedo, ATokenInAQueuedCallHoldsUntilItIsDelivered)
         }));
     worker->start();
     ASSERT_TRUE(worker->wait(60000));
-    undo.InsertVerticalZoomCommand(&target, first, second);
+    Zoom(first, second);
     EXPECT_FALSE(undo.UndoAvailable());
     QCoreApplication::processEvents();
     EXPECT_TRUE(disabled_on_delivery);
 }
 
-TEST(UndoRedo, ANullTargetStandsForTheOwner)
+TEST_F(UndoRedoTest, AShiftComesBackExactlyAndAStretchToFirstOrder)
 {
-    StrictTarget target;
-    UndoRedo undo(&target);
-    undo.InsertVerticalZoomCommand(nullptr, first, second);
-    EXPECT_CALL(target, SetVisibleDepthInterval(first));
-    undo.Undo();
-}
-
-TEST(UndoRedo, AShiftComesBackExactlyAndAStretchToFirstOrder)
-{
-    std::vector<DepthType> depths;
-    for (int i = 0; i < 5; ++i) {
-        depths.push_back(1000.0 + 10.0 * i);
-    }
+    std::vector<DepthType> const depths = {1000, 1010, 1020, 1030, 1040};
     DepthChannel channel(depths, true);
-    DepthTarget target(channel);
-    UndoRedo undo(&target);
+    target.depths = &channel;
 
     channel.ApplyShift(1.5);
-    undo.InsertShiftCommand(&target, gamma_ray, 1.5F);
-    undo.Undo();
-    for (std::size_t i = 0; i < depths.size(); ++i) {
-        EXPECT_EQ(channel.GetMetricDepths()[i], depths[i]);
-    }
+    undo.InsertShiftCommand(&target, target.channel, 1.5F);
+    Undo();
+    EXPECT_EQ(channel.GetMetricDepths(), depths);
 
     // Anchored at 1000 m, 1040 m is dragged by 1 m, and what lay at 1040 m ends 1 m times 1 m / 40 m short of
     // it.
     channel.ApplyStretch(1040.0, 1041.0, 1000.0);
-    undo.InsertStretchCommand(&target, gamma_ray, 1040.0F, 1041.0F, 1000.0F);
+    undo.InsertStretchCommand(&target, target.channel, 1040.0F, 1041.0F, 1000.0F);
     EXPECT_NEAR(channel.GetMetricDepths().back(), 1041.0, 1e-9);
-    undo.Undo();
+    Undo();
     EXPECT_NEAR(channel.GetMetricDepths().back(), 1040.0 - 1.0 / 40.0, 1e-9);
     EXPECT_NEAR(channel.GetMetricDepths().front(), 1000.0, 1e-9);
 }

@@ -11,8 +11,6 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-#include <gtest/gtest.h>
-
 namespace {
 /// Answers every request on the loopback address with one status line.
 class HttpServer
@@ -88,72 +86,45 @@ TEST(VersionCheck, AsksForTheHeadOfTheRunningBuild)
     HttpServer const server("200 OK");
     RecordedCheck recorded(server.Url());
     recorded.Run(false);
+    EXPECT_TRUE(recorded.messages.empty());
     EXPECT_EQ(server.RequestLine(),
               "HEAD /Current_QZ_Release/Quorrel_" + BuildDate::GetDate().toLatin1() + ".zip HTTP/1.1");
+    EXPECT_TRUE(WaitFor([&] { return recorded.check.findChild<QNetworkAccessManager*>() == nullptr; }));
     EXPECT_EQ(VersionCheck().GetUrl(),
               QUrl("https://quorrel.example/Current_QZ_Release/" + BuildDate::GetVersionFileName()));
 }
 
-TEST(VersionCheck, AMissingFileMeansANewVersion)
+TEST(VersionCheck, TellsOfANewVersionAndOfTheRestOnlyWhenAskedFor)
 {
-    HttpServer const server("404 Not Found");
-    RecordedCheck recorded(server.Url());
-    recorded.Run(true);
-    recorded.Run(false);
-    EXPECT_EQ(recorded.errors[0], QNetworkReply::ContentNotFoundError);
-    ASSERT_EQ(recorded.messages.size(), 2U);
-    for (VersionCheck::Message const& message : recorded.messages) {
-        EXPECT_EQ(message.title, "New version available");
-        EXPECT_TRUE(message.offers_download);
-    }
-    EXPECT_EQ(recorded.messages[0].text, "Go to download page?");
-    EXPECT_EQ(recorded.messages[1].text,
-              "Go to download page?\n(You can disable automatic update checks in Settings)");
-}
-
-TEST(VersionCheck, APresentFileIsToldOnlyWhenAskedFor)
-{
-    HttpServer const server("200 OK");
-    RecordedCheck recorded(server.Url());
-    recorded.Run(false);
-    EXPECT_TRUE(recorded.messages.empty());
-    recorded.Run(true);
-    recorded.Run(false); // the question from the menu holds for one answer
-    EXPECT_EQ(recorded.errors[1], QNetworkReply::NoError);
-    ASSERT_EQ(recorded.messages.size(), 1U);
-    EXPECT_EQ(recorded.messages[0].title, "Check for updates");
-    EXPECT_EQ(recorded.messages[0].text, "No update available");
-    EXPECT_FALSE(recorded.messages[0].offers_download);
-}
-
-TEST(VersionCheck, AnyOtherOutcomeIsToldOnlyWhenAskedFor)
-{
-    QString const text = "Something went wrong. Verify that you have internet connection. Error code: ";
-    struct Case
-    {
-        char const* status;
-        int error;
-    };
-    for (Case const& c : {Case{"500 Internal Server Error", 401}, Case{"410 Gone", 207}, Case{"", 1}}) {
-        HttpServer server(c.status);
+    QString const update = "Check for updates";
+    QString const failure = "Something went wrong. Verify that you have internet connection. Error code: ";
+    for (auto const& [status, error, title, text, is_told_unasked] :
+         std::vector<std::tuple<QByteArray, int, QString, QString, bool>>{
+             {"404 Not Found", QNetworkReply::ContentNotFoundError, "New version available",
+              "Go to download page?", true},
+             {"200 OK", QNetworkReply::NoError, update, "No update available", false},
+             {"500 Internal Server Error", 401, update, failure + "401", false},
+             {"410 Gone", 207, update, failure + "207", false},
+             {"", 1, update, failure + "1", false}}) {
+        SCOPED_TRACE(status.toStdString());
+        HttpServer server(status);
         RecordedCheck recorded(server.Url());
-        if (*c.status == 0) {
+        if (status.isEmpty()) {
             server.Close(); // nobody listens there any more
         }
-        recorded.Run(false);
-        EXPECT_TRUE(recorded.messages.empty()) << c.status;
         recorded.Run(true);
-        ASSERT_EQ(recorded.messages.size(), 1U) << c.status;
-        EXPECT_EQ(recorded.messages[0].title, "Check for updates");
-        EXPECT_EQ(recorded.messages[0].text, text + QString::number(c.error));
-        EXPECT_FALSE(recorded.messages[0].offers_download);
+        ASSERT_EQ(recorded.messages.size(), 1U);
+        EXPECT_EQ(recorded.errors[0], error);
+        EXPECT_EQ(recorded.messages[0].title, title);
+        EXPECT_EQ(recorded.messages[0].text, text);
+        EXPECT_EQ(recorded.messages[0].offers_download, is_told_unasked);
+        recorded.Run(false); // the question from the menu holds for one answer
+        ASSERT_EQ(recorded.messages.size(), is_told_unasked ? 2U : 1U);
+        if (is_told_unasked) {
+            EXPECT_EQ(recorded.messages[1].title, title);
+            EXPECT_TRUE(recorded.messages[1].offers_download);
+            EXPECT_EQ(recorded.messages[1].text,
+                      text + "\n(You can disable automatic update checks in Settings)");
+        }
     }
-}
-
-TEST(VersionCheck, LeavesNoManagerBehind)
-{
-    HttpServer const server("200 OK");
-    RecordedCheck recorded(server.Url());
-    recorded.Run(false);
-    EXPECT_TRUE(WaitFor([&] { return recorded.check.findChild<QNetworkAccessManager*>() == nullptr; }));
 }

@@ -5,15 +5,10 @@
 
 #include "ColumnFixture.h"
 #include "display/AutomaticCombinedViewWidget.h"
-#include "display/AutomaticDataView.h"
 #include "display/UserCombinedViewWidget.h"
-#include "display/UserDataView.h"
-#include "support/Pixels.h"
 
 #include <QSignalSpy>
 #include <QTest>
-
-#include <limits>
 
 namespace {
 using namespace view_bench;

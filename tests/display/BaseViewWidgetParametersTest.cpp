@@ -5,10 +5,6 @@
 
 #include "app/kit/Globals.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
-
 class BaseViewWidgetParametersTest : public testing::Test
 {
 protected:

@@ -7,11 +7,8 @@
 #include "ViewBench.h"
 
 #include <QApplication>
-#include <QImage>
 #include <QSignalSpy>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace {
 using namespace view_bench;

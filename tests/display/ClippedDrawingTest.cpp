@@ -6,8 +6,6 @@
 #include "support/Pixels.h"
 
 #include <chrono>
-#include <limits>
-#include <vector>
 
 namespace {
 constexpr int SIZE = 100;

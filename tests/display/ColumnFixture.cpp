@@ -5,6 +5,7 @@
 
 #include "PlainView.h"
 #include "display/BaseScaleView.h"
+#include "support/Texts.h"
 
 #include <QHBoxLayout>
 
@@ -135,25 +136,14 @@ void ColumnFixture::Settle()
     }
 }
 
-namespace {
-QList<QString> NamesOf(QList<BaseCombinedViewWidget*> const& pairs)
-{
-    QList<QString> names;
-    for (BaseCombinedViewWidget const* pair : pairs) {
-        names.append(pair->GetBaseViewWidgetName());
-    }
-    return names;
-}
-} // namespace
-
 QList<QString> ColumnFixture::Names() const
 {
-    return NamesOf(column->FindAllCombinedViewWidgets());
+    return Texts(column->FindAllCombinedViewWidgets(), &BaseCombinedViewWidget::GetBaseViewWidgetName);
 }
 
 QList<QString> ColumnFixture::VisibleNames() const
 {
-    return NamesOf(column->FindAllVisibleCombinedViewWidgets());
+    return Texts(column->FindAllVisibleCombinedViewWidgets(), &BaseCombinedViewWidget::GetBaseViewWidgetName);
 }
 
 std::map<QString, int> ColumnFixture::RenderCounts() const

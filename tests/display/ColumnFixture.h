@@ -13,13 +13,6 @@
 #include "display/ViewFactory.h"
 #include "model/ViewObjectNames.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <map>
-#include <memory>
-#include <vector>
-
 /// Makes plain views with the object names of the zone, deviation and sketch views, and remembers overlays.
 class PlainViewFactory final : public ViewFactory
 {

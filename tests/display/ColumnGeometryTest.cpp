@@ -3,12 +3,6 @@
 
 #include "display/ColumnGeometry.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <tuple>
-#include <vector>
-
 using namespace Quorrel;
 
 TEST(ColumnGeometryTest, ZoomAboutDepthKeepsTheDepthInPlace)

@@ -6,8 +6,6 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <cmath>
-
 class ColumnWindowMouseTest : public ColumnFixture
 {
 protected:

@@ -9,8 +9,6 @@
 
 #include <QSignalSpy>
 
-#include <stdexcept>
-
 namespace {
 using CountByName = std::map<QString, std::size_t>;
 

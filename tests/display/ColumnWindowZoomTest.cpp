@@ -9,8 +9,6 @@
 #include <QSignalSpy>
 #include <QWheelEvent>
 
-#include <algorithm>
-
 /// A column over 0 to 5000 m that shows 1000 to 2000 m in a height that the test sets.
 class ColumnWindowZoomTest : public ColumnFixture
 {

@@ -14,14 +14,11 @@
 #include "display/UserCombinedViewWidget.h"
 #include "display/UserDataView.h"
 #include "support/DialogAnswer.h"
+#include "support/Texts.h"
 
-#include <QApplication>
 #include <QMenu>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
 
 namespace {
 using namespace view_bench;
@@ -80,15 +77,6 @@ bool OpensContextMenu(QWidget* widget, std::function<void(QMenu&)> const& act)
     return seen;
 }
 
-QStringList Texts(QMenu& menu)
-{
-    QStringList texts;
-    for (QAction const* const action : menu.actions()) {
-        texts << action->text();
-    }
-    return texts;
-}
-
 TEST_F(CombinedViewTest, ContextMenusSwitchMarkersAndBaseline)
 {
     pair.GetBaseDataView()->AssignDepthDataChannel(channel);
@@ -100,9 +88,10 @@ TEST_F(CombinedViewTest, ContextMenusSwitchMarkersAndBaseline)
     for (std::size_t i = 0; i < widgets.size(); ++i) {
         bool const now = i % 2 == 0;
         EXPECT_TRUE(OpensContextMenu(widgets[i], [&](QMenu& menu) {
-            ASSERT_EQ(Texts(menu), QStringList({"Horizontal Scales", "Markers", "Show Baseline"}));
+            ASSERT_EQ(Texts(menu.actions(), &QAction::text),
+                      QStringList({"Horizontal Scales", "Markers", "Show Baseline"}));
             QMenu* const markers = menu.actions()[1]->menu();
-            ASSERT_EQ(Texts(*markers), QStringList({"A", "B"}));
+            ASSERT_EQ(Texts(markers->actions(), &QAction::text), QStringList({"A", "B"}));
             for (QAction* const action : {markers->actions()[0], markers->actions()[1], menu.actions()[2]}) {
                 EXPECT_EQ(action->isChecked(), action->text() == "Show Baseline" ? now : !now);
                 action->trigger();
@@ -122,7 +111,8 @@ TEST_F(CombinedViewTest, ContextMenuOpensTheScaleDialogAndTheProperties)
     QSignalSpy properties(&user, &UserCombinedViewWidget::ShowUserDataViewProperties_Signal);
     DialogAnswer const dialogs;
     EXPECT_TRUE(OpensContextMenu(user.GetBaseViewWidget(), [&](QMenu& menu) {
-        ASSERT_EQ(Texts(menu), QStringList({"Horizontal Scales", "Markers", "Show Baseline", "Properties"}));
+        ASSERT_EQ(Texts(menu.actions(), &QAction::text),
+                  QStringList({"Horizontal Scales", "Markers", "Show Baseline", "Properties"}));
         menu.actions()[3]->trigger();
         menu.actions()[0]->trigger();
     }));

@@ -6,12 +6,7 @@
 #include "ViewBench.h"
 #include "display/CurveSupport.h"
 #include "display/DepthCurve.h"
-#include "display/DepthGeometry.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <map>
 #include <random>
 
 using namespace curve_support;
@@ -43,11 +38,7 @@ std::map<int, Interval> RowEnvelopes(Points const& points)
     return rows;
 }
 
-class CurveRendererTest : public ::testing::Test
-{
-protected:
-    view_bench::Bench bench;
-};
+using CurveRendererTest = view_bench::BenchTest;
 
 DepthCurve Processed(std::shared_ptr<StorageDataChannel> const& channel)
 {

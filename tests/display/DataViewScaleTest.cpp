@@ -9,7 +9,6 @@
 #include "display/ScaleItem.h"
 #include "display/ScaleLabel.h"
 #include "model/ScaleItemParameters.h"
-#include "support/Pixels.h"
 
 #include <QAbstractScrollArea>
 #include <QSignalSpy>

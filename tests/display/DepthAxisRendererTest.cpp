@@ -5,13 +5,7 @@
 
 #include "ViewBench.h"
 #include "support/RecordingPaintDevice.h"
-
-#include <QImage>
-#include <QPainter>
-
-#include <gtest/gtest.h>
-
-#include <set>
+#include "support/Texts.h"
 
 namespace {
 /// Rows of the lines that go from x1 to x2.
@@ -36,18 +30,10 @@ void Draw(QPaintDevice& device, Interval const& interval, double dpi = 96, bool 
 
 QStringList Labels(RecordingPaintDevice const& device)
 {
-    QStringList labels;
-    for (auto const& text : device.GetTexts()) {
-        labels.push_back(text.text);
-    }
-    return labels;
+    return Texts(device.GetTexts(), &RecordingPaintDevice::Text::text);
 }
 
-class DepthAxisRendererTest : public ::testing::Test
-{
-protected:
-    view_bench::Bench bench;
-};
+using DepthAxisRendererTest = view_bench::BenchTest;
 } // namespace
 
 TEST_F(DepthAxisRendererTest, StepNearTheDepthOfAnInch)

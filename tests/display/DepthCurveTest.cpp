@@ -6,10 +6,6 @@
 #include "display/CurveSupport.h"
 #include "model/ScaleItemParameters.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <map>
 #include <random>
 
 using namespace curve_support;
@@ -116,7 +112,7 @@ TEST(DepthCurveTest, LooksUpSamplesByDepth)
 
 TEST(DepthCurveTest, OutlivesItsChannel)
 {
-    auto channel = MakeChannel({1, 2, 3}, {1, 2, 3}, {2, QStringLiteral("abc"), 4});
+    auto channel = MakeChannel({1, 2, 3}, {1, 2, 3}, "abc", {2, "abc", 4});
     DepthCurve curve(channel);
     curve.ProcessCurve();
     channel.reset();

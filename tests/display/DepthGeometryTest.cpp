@@ -3,12 +3,6 @@
 
 #include "display/DepthGeometry.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <tuple>
-#include <vector>
-
 namespace {
 constexpr int INT_LEAST = std::numeric_limits<int>::min();
 constexpr int INT_GREATEST = std::numeric_limits<int>::max();

@@ -11,8 +11,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include <gtest/gtest.h>
-
 class DisplayedIntervalDialogTest : public testing::Test
 {
 protected:

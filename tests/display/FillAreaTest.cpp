@@ -6,10 +6,7 @@
 #include "display/FillAreaSource.h"
 #include "support/Pixels.h"
 
-#include <limits>
-#include <map>
 #include <random>
-#include <stdexcept>
 
 namespace {
 using Points = std::vector<QPointF>;

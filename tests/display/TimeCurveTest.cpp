@@ -7,11 +7,9 @@
 #include "display/CurveColors.h"
 #include "display/TimeCurveOverlay.h"
 #include "display/TimeCurveVector.h"
-#include "support/Pixels.h"
 
 #include <QApplication>
 #include <QEnterEvent>
-#include <cmath>
 #include <cstdlib>
 
 namespace {

@@ -9,7 +9,6 @@
 #include "display/TreeItemDropData.h"
 #include "display/UserCombinedViewWidget.h"
 #include "formats/project/ViewRecords.h"
-#include "support/Pixels.h"
 
 #include <QApplication>
 #include <QDataStream>

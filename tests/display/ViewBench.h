@@ -4,7 +4,6 @@
 #pragma once
 
 #include "app/kit/Globals.h"
-#include "app/kit/SettingsSingleton.h"
 #include "display/BaseDataView.h"
 #include "display/BaseViewWidgetParameters.h"
 #include "display/ColumnContext.h"
@@ -14,6 +13,7 @@
 #include "model/DepthLogPass.h"
 #include "model/LogPassProperties.h"
 #include "model/TimeLog.h"
+#include "support/NumberFormats.h"
 #include "support/Pixels.h"
 #include "well/DepthMarker.h"
 #include "well/DirectionalSurveyData.h"
@@ -21,14 +21,7 @@
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPointF>
-#include <QStringList>
 #include <QWidget>
-
-#include <cmath>
-#include <cstddef>
-#include <functional>
-#include <memory>
-#include <vector>
 
 /// What the views of a column need to live, without a column.
 namespace view_bench {
@@ -37,9 +30,11 @@ class Channel final : public BaseDepthDataChannel
 {
 public:
     Channel(DataChannelIdentifier const& identifier, HeaderRow const& header,
-            std::vector<double> const& depths, std::vector<float> samples, QPen const& pen)
-        : Channel(identifier, header, depths, std::make_shared<SampleVector>(std::move(samples)), pen)
+            std::vector<double> const& depths, std::shared_ptr<SampleVector> const& samples)
+        : BaseDepthDataChannel(identifier, samples, header), depth(depths, true)
     {
+        properties.identifier = identifier.GetLogPassIdentifier();
+        properties.pen = QPen(Qt::red);
     }
 
     [[nodiscard]] QString GetName() const override { return GetCurveInfo().mnemonic; }
@@ -52,34 +47,22 @@ public:
 
     DepthChannel depth;
     LogPassProperties properties;
-
-private:
-    Channel(DataChannelIdentifier const& identifier, HeaderRow const& header,
-            std::vector<double> const& depths, std::shared_ptr<SampleVector> const& samples, QPen const& pen)
-        : BaseDepthDataChannel(identifier, samples, header), depth(depths, true)
-    {
-        properties.identifier = identifier.GetLogPassIdentifier();
-        properties.pen = pen;
-    }
 };
 
-using Function = std::function<double(double depth)>;
-
-/// Samples every half metre from top to bottom, both included.
+/// A red curve of samples every half metre from top to bottom, both included.
 inline std::shared_ptr<Channel> MakeChannel(QString const& hash, int index, QString const& mnemonic,
-                                            QString const& unit, Function const& value, double top = 1000,
-                                            double bottom = 1100, QPen const& pen = QPen(Qt::red))
+                                            QString const& unit, std::function<double(double)> const& value,
+                                            double top = 1000, double bottom = 1100)
 {
     std::vector<double> depths;
-    std::vector<float> samples;
+    auto const samples = std::make_shared<std::vector<float>>();
     for (double depth = top; depth <= bottom; depth += 0.5) {
         depths.push_back(depth);
-        samples.push_back(static_cast<float>(value(depth)));
+        samples->push_back(static_cast<float>(value(depth)));
     }
-    return std::make_shared<Channel>(
-        DataChannelIdentifier(1, hash, index),
-        HeaderRow(mnemonic, unit, QString(), mnemonic + QStringLiteral(" description")), depths,
-        std::move(samples), pen);
+    return std::make_shared<Channel>(DataChannelIdentifier(1, hash, index),
+                                     HeaderRow(mnemonic, unit, "", mnemonic + " description"), depths,
+                                     samples);
 }
 
 /// The value equals (depth - 1000) / 100 times `factor`: 0 at the top of the bench's view, `factor` at its
@@ -156,27 +139,27 @@ public:
         context.directional_survey = &survey;
         context.markers_a = &markers_a;
         context.markers_b = &markers_b;
-        SettingsSingleton::Instance().SetMetricDepth(true);
-        SettingsSingleton::Instance().SetSeparatorSelection(US);
         Quorrel::DPI_X = 96;
         Quorrel::DPI_Y = 96;
         Quorrel::TRACKING_MODE = false;
     }
-    ~Bench()
-    {
-        SettingsSingleton::Instance().SetMetricDepth(false);
-        SettingsSingleton::Instance().SetSeparatorSelection(US);
-        Quorrel::TRACKING_MODE = false;
-    }
+    ~Bench() { Quorrel::TRACKING_MODE = false; }
     Bench(Bench const&) = delete;
     Bench& operator=(Bench const&) = delete;
 
+    NumberFormatScope number_format;
     BaseViewWidgetParameters parameters;
     CurrentDepthLogPass current_pass;
     DirectionalSurveyData survey;
     QList<DepthMarker> markers_a;
     QList<DepthMarker> markers_b;
     ColumnContext context;
+};
+
+class BenchTest : public testing::Test
+{
+protected:
+    Bench bench;
 };
 
 /// What the view paints for 1000 to 1100 m on 200 x 101 pixels.

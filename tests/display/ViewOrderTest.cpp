@@ -3,8 +3,6 @@
 
 #include "display/ViewOrder.h"
 
-#include <gtest/gtest.h>
-
 using namespace Quorrel;
 
 namespace {

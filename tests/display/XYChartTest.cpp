@@ -5,10 +5,6 @@
 
 #include "support/Pixels.h"
 
-#include <cmath>
-#include <limits>
-#include <tuple>
-
 namespace {
 BaseChart::Values Make(std::vector<float> values)
 {

@@ -5,15 +5,9 @@
 
 #include "formats/project/ProjectFile.h"
 #include "model/DataContainer.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <set>
 
 namespace {
 class DemoProject : public testing::Test
@@ -111,19 +105,12 @@ TEST_F(DemoProject, ShowsDensityOverNeutronOnTheUsualScales)
     EXPECT_TRUE(spinner->is_visible);
 }
 
-QByteArray Content(QString const& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 TEST(DemoProjectTool, WritesTheCommittedFile)
 {
-    QTemporaryDir folder;
-    auto const path = folder.filePath("demo.qz4");
+    test_files::Folder const folder;
+    auto const path = folder.Path("demo.qz4");
     ASSERT_EQ(QProcess::execute(QUORREL_DEMO_PROJECT_TOOL, {QUORREL_EXAMPLES, path}), 0);
-    auto const written = Content(path);
-    EXPECT_FALSE(written.isEmpty());
-    EXPECT_TRUE(written == Content(QUORREL_EXAMPLES "/demo.qz4")) << "write examples/demo.qz4 again";
+    EXPECT_TRUE(test_files::Read(path) == test_files::Read(QUORREL_EXAMPLES "/demo.qz4"))
+        << "write examples/demo.qz4 again";
 }
 } // namespace

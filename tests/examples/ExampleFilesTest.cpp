@@ -9,10 +9,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
 #include <numbers>
 
 namespace {

@@ -6,12 +6,6 @@
 #include "ModelFixtures.h"
 #include "model/DepthLogDataChannel.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <stdexcept>
-
 using testing::ElementsAre;
 
 namespace {

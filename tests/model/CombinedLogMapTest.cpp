@@ -6,11 +6,6 @@
 #include "ModelFixtures.h"
 #include "model/LogDepthQuestion.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using testing::ElementsAre;
 using testing::EndsWith;
 
@@ -129,13 +124,12 @@ TEST(CombinedLogMap, SaysThatAHashIsUnknown)
 {
     CombinedLogMap logs(SURVEY);
     CombinedLogMap const& const_logs = logs;
-    auto const text = EndsWith(": Logpass key does not exist");
-    EXPECT_THAT(MessageOf<std::runtime_error>([&] { (void)logs.GetDepthLogPass("x"); }), text);
-    EXPECT_THAT(MessageOf<std::runtime_error>([&] { (void)const_logs.GetDepthLogPass("x"); }), text);
-    EXPECT_THAT(MessageOf<std::runtime_error>([&] { (void)const_logs.GetTimeLog("x"); }), text);
-    EXPECT_THAT(MessageOf<std::runtime_error>([&] { (void)logs.GetDataChannel("x", 0); }), text);
-    EXPECT_THAT(MessageOf<std::runtime_error>([&] { (void)logs.GetLogPassProperties("x"); }), text);
-    EXPECT_THAT(MessageOf<std::runtime_error>([&] { (void)logs.GetDataChannelNames("x"); }), text);
+    for (std::function<void()> const& call : std::vector<std::function<void()>>{
+             [&] { (void)logs.GetDepthLogPass("x"); }, [&] { (void)const_logs.GetDepthLogPass("x"); },
+             [&] { (void)const_logs.GetTimeLog("x"); }, [&] { (void)logs.GetDataChannel("x", 0); },
+             [&] { (void)logs.GetLogPassProperties("x"); }, [&] { (void)logs.GetDataChannelNames("x"); }}) {
+        EXPECT_THAT(MessageOf<std::runtime_error>(call), EndsWith(": Logpass key does not exist"));
+    }
     EXPECT_NO_THROW(logs.DeleteLogPass("x"));
 }
 

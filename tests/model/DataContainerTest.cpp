@@ -7,11 +7,6 @@
 #include "model/DataContainerWrapper.h"
 #include "model/ProjectAccess.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -218,12 +213,4 @@ TEST(ProjectAccess, MarksTheProjectOnWritesOnly)
     EXPECT_EQ(project.GetTotalDepthInterval(survey), Interval(205, 207));
     EXPECT_THAT(project.GetStorageKeys(survey), ElementsAre(0));
     EXPECT_EQ(writes, 4);
-}
-
-TEST(InterpretationParameters, StartWithTheUsualVelocityProfile)
-{
-    InterpretationParameters const parameters;
-    EXPECT_EQ(parameters.GetVpcf(), 0.83F);
-    EXPECT_TRUE(parameters.GetUseSecondCaliper());
-    EXPECT_FALSE(parameters.GetUseFixedId());
 }

@@ -5,13 +5,6 @@
 
 #include "ModelFixtures.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <stdexcept>
-
 using testing::ElementsAre;
 
 namespace {
@@ -44,10 +37,10 @@ TEST(DepthChannel, KeepsBothUnitsSideBySide)
     EXPECT_EQ(imperial.GetStretch(), 1);
 
     {
-        SettingsGuard const settings(true);
+        NumberFormatScope const scope({US, true});
         EXPECT_EQ(imperial.GetDepthVector_settings_unit().lock(), imperial.GetDepthVector_metric().lock());
     }
-    SettingsGuard const settings(false);
+    NumberFormatScope const scope({US, false});
     EXPECT_EQ(imperial.GetDepthVector_settings_unit().lock(), imperial.GetDepthVector_imperial().lock());
 }
 

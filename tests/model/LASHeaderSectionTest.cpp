@@ -5,10 +5,6 @@
 
 #include "model/UndefinedMnem.h"
 
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 TEST(HeaderRow, CutsHeaderLines)
 {
     struct Case

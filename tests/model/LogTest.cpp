@@ -9,13 +9,7 @@
 #include "model/BaseLogPassRecord.h"
 #include "model/UndefinedMnem.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
 #include <random>
-#include <stdexcept>
 
 using testing::ElementsAre;
 
@@ -194,13 +188,13 @@ TEST(TimeLog, AsksForItsDepth)
         return TimeLog(file, "/data/stop 1.las", IDENTIFIER, QPen()).GetLogDepth();
     };
     {
-        SettingsGuard const settings(true);
+        NumberFormatScope const scope({US, true});
         EXPECT_EQ(depth_of_new_log(), 1000);
         EXPECT_EQ(asked_title, "Log Depth[m]");
         EXPECT_EQ(asked_label, "stop 1.las");
     }
     {
-        SettingsGuard const settings(false);
+        NumberFormatScope const scope({US, false});
         EXPECT_EQ(depth_of_new_log(), 1000 * 0.3048F);
         EXPECT_EQ(asked_title, "Log Depth[ft]");
         answer.reset();

@@ -3,42 +3,11 @@
 
 #pragma once
 
-#include "app/kit/SettingsSingleton.h"
 #include "formats/las/LASFile.h"
 #include "model/StorageDataChannel.h"
-
-#include <QString>
-
-#include <memory>
-#include <string>
-#include <utility>
-#include <vector>
+#include "support/NumberFormats.h"
 
 using Samples = std::vector<float>;
-
-/// Depth unit and number format of the settings for one test; puts the former back.
-class SettingsGuard
-{
-public:
-    explicit SettingsGuard(bool metric, Separator_Selection separators = US)
-        : metric_(SettingsSingleton::Instance().IsMetricDepth()),
-          separators_(SettingsSingleton::Instance().GetSeparatorSelection())
-    {
-        SettingsSingleton::Instance().SetMetricDepth(metric);
-        SettingsSingleton::Instance().SetSeparatorSelection(separators);
-    }
-    SettingsGuard(SettingsGuard const&) = delete;
-    SettingsGuard& operator=(SettingsGuard const&) = delete;
-    ~SettingsGuard()
-    {
-        SettingsSingleton::Instance().SetMetricDepth(metric_);
-        SettingsSingleton::Instance().SetSeparatorSelection(separators_);
-    }
-
-private:
-    bool metric_;
-    Separator_Selection separators_;
-};
 
 struct Curve
 {
@@ -96,16 +65,4 @@ inline std::shared_ptr<StorageDataChannel> MakeChannel(std::vector<double> const
 inline Samples Values(BaseDataChannel const& channel)
 {
     return Samples(channel.begin(), channel.end());
-}
-
-/// The message of the exception that the call throws; empty when it throws none of this type.
-template <typename Exception, typename Call>
-std::string MessageOf(Call const& call)
-{
-    try {
-        call();
-    } catch (Exception const& exception) {
-        return exception.what();
-    }
-    return {};
 }

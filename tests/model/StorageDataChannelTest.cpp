@@ -5,11 +5,6 @@
 
 #include "ModelFixtures.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 using testing::ElementsAre;
 using testing::FloatEq;
 
@@ -52,7 +47,7 @@ TEST(StorageDataChannel, AverageRunsInSinglePrecision)
 
 TEST(StorageDataChannel, AverageWindowIsInMetresWhateverTheSetting)
 {
-    SettingsGuard const settings(false);
+    NumberFormatScope const scope({US, false});
     auto const channel = MakeChannel(Depths(0, 0.5, 5), {0, 0, 6, 0, 0});
     channel->MovingAverage(1.5F);
     EXPECT_THAT(Values(*channel), ElementsAre(0, 2, 2, 2, 0));
@@ -60,18 +55,14 @@ TEST(StorageDataChannel, AverageWindowIsInMetresWhateverTheSetting)
 
 TEST(StorageDataChannel, DifferentiatesForwardInTheSettingsUnit)
 {
-    {
-        SettingsGuard const settings(true);
+    NumberFormatScope const scope;
+    for (float const factor : {1.0F, 3.28084F}) {
         auto const channel = MakeChannel({0, 2, 3}, {1, 5, 2});
         channel->Differentiate();
-        EXPECT_THAT(Values(*channel), ElementsAre(2, -3, -3));
+        EXPECT_THAT(Values(*channel),
+                    ElementsAre(FloatEq(2 / factor), FloatEq(-3 / factor), FloatEq(-3 / factor)));
+        NumberFormatScope::Set({US, false});
     }
-    SettingsGuard const settings(false);
-    auto const channel = MakeChannel({0, 2, 3}, {1, 5, 2});
-    channel->Differentiate();
-    EXPECT_THAT(Values(*channel),
-                ElementsAre(FloatEq(2 / 3.28084F), FloatEq(-3 / 3.28084F), FloatEq(-3 / 3.28084F)));
-
     EXPECT_EQ(MessageOf<std::invalid_argument>([] { MakeChannel({0}, {1})->Differentiate(); }),
               "StorageDataChannel too short for differentiation");
     EXPECT_THROW(MakeChannel({0}, {1, 2})->Differentiate(), std::invalid_argument);
@@ -102,7 +93,7 @@ TEST(StorageDataChannel, ResamplingTakesTheWholeAxisOfTheTarget)
 
 TEST(StorageDataChannel, CopiesDeeplyUnderAComposedName)
 {
-    SettingsGuard const settings(true, International);
+    NumberFormatScope const scope({International, true});
     auto const source = MakeChannel({1, 2}, {3, 4}, "source", DataChannelIdentifier(1234, "hash", 1));
     StorageDataChannel const copy(source.get(), 7);
     source->GetDepth().ApplyShift(1);
@@ -125,15 +116,4 @@ TEST(StorageDataChannel, TakesOnlyAnAxisOfItsOwnLength)
     channel.AddDepth(DepthChannel({1, 2}, true));
     EXPECT_EQ(channel.GetDepthInterval_metric(), Interval(1, 2));
     EXPECT_EQ(channel.GetName(), "new");
-}
-
-TEST(StorageDataChannel, RestoresWithShiftBeforeStretch)
-{
-    DATA_STORAGE_CHANNEL_Struct const record{"stored", HeaderRow("GR", "", "", ""), {1, "h", 2}};
-    std::vector<double> depths{100, 200};
-    StorageDataChannel const channel(record, true, 5, 2, depths, std::make_shared<Samples>(Samples{1, 2}));
-    EXPECT_EQ(channel.GetDepthInterval_metric(), Interval(205, 405));
-    EXPECT_EQ(channel.GetName(), "stored");
-    EXPECT_EQ(channel.GetDataChannelIdentifier(), DataChannelIdentifier(1, "h", 2));
-    EXPECT_EQ(channel.GetCurveInfo().mnemonic, "GR");
 }

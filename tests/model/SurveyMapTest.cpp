@@ -6,12 +6,6 @@
 #include "ModelFixtures.h"
 #include "model/UniqueNames.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <stdexcept>
-
 using testing::ElementsAre;
 
 TEST(SurveyMap, GivesKeysAndUniqueNames)
@@ -48,7 +42,7 @@ TEST(SurveyMap, GivesKeysAndUniqueNames)
 
 TEST(UniqueNames, NumbersAreInTheSettingsFormat)
 {
-    SettingsGuard const settings(true, International);
+    NumberFormatScope const scope({International, true});
     QSet<QString> taken{"N"};
     for (int i = 1; i < 1000; ++i) {
         taken.insert(QStringLiteral("N_#%1").arg(i));

@@ -8,11 +8,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <set>
-
 namespace {
 QStringList FilesUnder(QString const& folder)
 {
@@ -68,63 +63,31 @@ double ReadableShare(QImage const& picture, QColor const& background)
 QColor const LIGHT_BACKGROUND(0xf0, 0xf0, 0xf0);
 QColor const DARK_BACKGROUND(0x23, 0x26, 0x29);
 
-QStringList const ACTION_ICONS = {"Convert DLIS",
-                                  "DLIS Browser",
-                                  "New Survey",
-                                  "Open Project",
-                                  "New Project",
-                                  "Add LAS File",
-                                  "Save Project",
-                                  "Generate PDF",
-                                  "Exit",
-                                  "Set Display Interval",
-                                  "Zoom In",
-                                  "Zoom Out",
-                                  "Undo",
-                                  "Redo",
-                                  "Reset Zooms",
-                                  "Zoom Vertical Interval",
-                                  "Zoom Horizontal Interval",
-                                  "Adjust Scales",
-                                  "Well Details",
-                                  "Import Well Details",
-                                  "Calculate Well Volumes",
-                                  "DataBrowser",
-                                  "Change Visible Dataviews",
-                                  "Edit Survey Notes",
-                                  "Generate Pipe Wall",
-                                  "About",
-                                  "About Qt",
-                                  "Homepage",
-                                  "Check for Updates",
-                                  "Settings",
-                                  "MFC Mode",
-                                  "MFC Color Map",
-                                  "MFC 3D Window",
-                                  "MFC Cross Section",
-                                  "Tracking Mode",
-                                  "Define Interpretation Zones",
-                                  "Spinner Calibration",
-                                  "Edit Interpretation Zones",
-                                  "Edit Interpretation Parameters",
-                                  "Show Vertical Section",
-                                  "Show 3D Well Trajectory",
-                                  "Screens Manager",
-                                  "Quorrel",
-                                  "Depth_Metric",
-                                  "Depth_Imperial",
-                                  "Separator_Period",
-                                  "Separator_Comma"};
-QStringList const PASS_ICONS = {"Next Pass",      "Previous Pass", "Hide Pass",
-                                "Highlight pass", "Stretch",       "Shift"};
-QStringList const AREA_FILL_ICONS = {
-    "A_left_of_B",      "A_right_of_B",           "A_left_of_Value",
-    "A_right_of_Value", "Always_between_A_and_B", "Always_between_A_and_Value"};
-QStringList const BROWSER_ICONS = {"Survey",       "Log Data",      "Log Pass",       "Time Log",
-                                   "Data Channel", "Time Channel",  "Data Storage",   "Storage Channel",
-                                   "Views",        "User Views",    "User View",      "Image Views",
-                                   "Image View",   "New User View", "New Image View", "Math",
-                                   "Smooth Curve", "Derivative",    "Rename",         "Export"};
+/// Names that stand between bars.
+QStringList List(char const* names)
+{
+    return QString(names).split('|');
+}
+
+QStringList const ACTION_ICONS =
+    List("Convert DLIS|DLIS Browser|New Survey|Open Project|New Project|Add LAS File|Save Project|"
+         "Generate PDF|Exit|Set Display Interval|Zoom In|Zoom Out|Undo|Redo|Reset Zooms|"
+         "Zoom Vertical Interval|Zoom Horizontal Interval|Adjust Scales|Well Details|Import Well Details|"
+         "Calculate Well Volumes|DataBrowser|Change Visible Dataviews|Edit Survey Notes|Generate Pipe Wall|"
+         "About|About Qt|Homepage|Check for Updates|Settings|MFC Mode|MFC Color Map|MFC 3D Window|"
+         "MFC Cross Section|Tracking Mode|Define Interpretation Zones|Spinner Calibration|"
+         "Edit Interpretation Zones|Edit Interpretation Parameters|Show Vertical Section|"
+         "Show 3D Well Trajectory|Screens Manager|Quorrel|Depth_Metric|Depth_Imperial|Separator_Period|"
+         "Separator_Comma");
+QStringList const SWITCHED_ICONS = List("Depth_Metric|Depth_Imperial|Separator_Period|Separator_Comma");
+QStringList const PASS_ICONS = List("Next Pass|Previous Pass|Hide Pass|Highlight pass|Stretch|Shift");
+QStringList const AREA_FILL_ICONS =
+    List("A_left_of_B|A_right_of_B|A_left_of_Value|A_right_of_Value|Always_between_A_and_B|"
+         "Always_between_A_and_Value");
+QStringList const BROWSER_ICONS =
+    List("Survey|Log Data|Log Pass|Time Log|Data Channel|Time Channel|Data Storage|Storage Channel|Views|"
+         "User Views|User View|Image Views|Image View|New User View|New Image View|Math|Smooth Curve|"
+         "Derivative|Rename|Export");
 
 class ResourcesTest : public testing::Test
 {
@@ -135,24 +98,18 @@ protected:
 
 TEST_F(ResourcesTest, EveryNamedIconIsInTheBundle)
 {
-    QStringList expected;
-    for (QString const& name : ACTION_ICONS)
-        expected << ":/Icons/" + name + ".svg";
-    for (QString const& name : PASS_ICONS)
-        expected << ":/Icons/Pass Toolbar/" + name + ".svg";
-    for (QString const& name : AREA_FILL_ICONS)
-        expected << ":/Icons/AreaFill/" + name + ".svg";
-    for (QString const& name : BROWSER_ICONS)
-        expected << ":/Icons/DataBrowser/" + name + ".svg";
-    // Code asks for these dark forms by name, without looking whether they exist.
-    for (char const* name : {"Depth_Metric", "Depth_Imperial", "Separator_Period", "Separator_Comma"})
-        expected << QString(":/Icons/DarkTheme/%1.svg").arg(name);
-    for (char const* name : {"Math", "Derivative", "Rename", "Export"})
-        expected << QString(":/Icons/DataBrowser/DarkTheme/%1.svg").arg(name);
-    for (QString const& name : PASS_ICONS)
-        expected << ":/Icons/Pass Toolbar/DarkTheme/" + name + ".svg";
-    for (QString const& file : expected)
-        EXPECT_TRUE(QFile::exists(file)) << file.toStdString();
+    // Code asks for the dark forms by name, without looking whether they exist.
+    for (auto const& [folder, names] :
+         {std::pair("", ACTION_ICONS), std::pair("Pass Toolbar/", PASS_ICONS),
+          std::pair("AreaFill/", AREA_FILL_ICONS), std::pair("DataBrowser/", BROWSER_ICONS),
+          std::pair("DarkTheme/", SWITCHED_ICONS),
+          std::pair("DataBrowser/DarkTheme/", List("Math|Derivative|Rename|Export")),
+          std::pair("Pass Toolbar/DarkTheme/", PASS_ICONS)}) {
+        for (QString const& name : names) {
+            EXPECT_TRUE(QFile::exists(":/Icons/" + QString(folder) + name + ".svg"))
+                << folder << name.toStdString();
+        }
+    }
 }
 
 TEST_F(ResourcesTest, EveryIconIsASquarePictureOfItsOwn)

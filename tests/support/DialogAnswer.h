@@ -6,11 +6,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
-#include <QStringList>
 #include <QTimer>
-
-#include <functional>
-#include <vector>
 
 /// Answers the modal dialogs that an action opens, in their order, while the action runs. Dialogs beyond the
 /// answers given are rejected, so that no test hangs; all of them are remembered.

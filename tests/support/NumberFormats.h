@@ -5,10 +5,6 @@
 
 #include "app/kit/SettingsSingleton.h"
 
-#include <QString>
-
-#include <vector>
-
 /// Number formats and depth units for tests that go through all of them.
 struct NumberFormat
 {

@@ -7,11 +7,6 @@
 #include <QImage>
 #include <QPainter>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <vector>
-
 /// Looking at what was painted.
 namespace pixels {
 /// What `draw` paints on a ground of one colour.

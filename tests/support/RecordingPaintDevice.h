@@ -6,9 +6,6 @@
 #include <QLineF>
 #include <QPaintDevice>
 #include <QPaintEngine>
-#include <QString>
-
-#include <vector>
 
 /// A surface that keeps what is drawn on it instead of painting: lines and texts, in device coordinates.
 /// Texts can thus be checked without a font's pixels.

@@ -3,12 +3,7 @@
 
 #pragma once
 
-#include <QByteArray>
-#include <QString>
-#include <QStringList>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 /// Files for tests: a private folder, the tests' own data, and the folder of real sample files.
 namespace test_files {

@@ -5,8 +5,6 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 /// Every test program has an application object and a settings store of its own, away from the user's.
 int main(int argc, char** argv)
 {

@@ -7,8 +7,6 @@
 #include <QEventLoop>
 #include <QTimer>
 
-#include <functional>
-
 /// Runs the event loop until `condition` holds; false when it does not within `milliseconds`.
 inline bool WaitFor(std::function<bool()> const& condition, int milliseconds = 20000)
 {

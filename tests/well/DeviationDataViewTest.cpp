@@ -6,7 +6,6 @@
 #include "display/BaseScaleView.h"
 #include "display/ViewBench.h"
 #include "model/StorageDataChannel.h"
-#include "support/Pixels.h"
 #include "well/DeviationCombinedViewWidget.h"
 
 namespace {

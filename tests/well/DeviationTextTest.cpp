@@ -8,8 +8,6 @@
 
 #include <QBuffer>
 
-#include <gtest/gtest.h>
-
 namespace {
 using Stations = std::vector<DirectionalSurveyItem>;
 DeviationTextLayout const COMMA{DeviationText::COMMA_SEPARATOR};

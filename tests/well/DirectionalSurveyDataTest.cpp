@@ -7,15 +7,8 @@
 #include "support/NumberFormats.h"
 #include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
 #include <numbers>
 #include <sstream>
-#include <string>
-#include <tuple>
 
 namespace {
 using std::numbers::pi;

@@ -7,10 +7,6 @@
 #include "well/PipeStringData.h"
 #include "well/WellDetailsImporter.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
 TEST(ExampleWell, IsAsItsReadmeSays)
 {
     NumberFormatScope const scope;

@@ -7,11 +7,6 @@
 #include "support/TestFiles.h"
 #include "well/SketchWell.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-
 namespace {
 using sketch_well::Data;
 

@@ -7,12 +7,6 @@
 #include "well/NominalDiameters.h"
 #include "well/PipeData.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-
 namespace {
 constexpr float NO = PipeComponent::NULL_DIAMETER;
 

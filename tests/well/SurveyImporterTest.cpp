@@ -13,8 +13,6 @@
 #include <QRadioButton>
 #include <QSpinBox>
 
-#include <gtest/gtest.h>
-
 #include <sys/stat.h>
 
 namespace {

@@ -19,11 +19,6 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <limits>
-
 namespace {
 constexpr auto FATAL = QAbstractItemModelTester::FailureReportingMode::Fatal;
 

@@ -7,9 +7,9 @@
 #include "support/DialogAnswer.h"
 #include "support/NumberFormats.h"
 #include "support/TestFiles.h"
+#include "support/Texts.h"
 #include "well/SurveyImporter.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
@@ -20,9 +20,6 @@
 #include <QTableView>
 #include <QTableWidget>
 #include <QTest>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 /// Depths that no text of two decimals gives back, intervals and cement upside down.
@@ -96,11 +93,8 @@ protected:
 TEST_F(WellDetailsDialogTest, HasATabForEachKindOfDataAndTellsItsPasteFormat)
 {
     auto const* tabs = Find<QTabWidget>("WellDetailsTabs");
-    QStringList titles;
-    for (int i = 0; i < tabs->count(); ++i) {
-        titles << tabs->tabText(i);
-    }
-    EXPECT_EQ(titles.join('|'), "Survey|Perfos|Zones|Markers A|Markers B|Pipes|Pipe Strings|Components|Misc");
+    EXPECT_EQ(IndexedTexts(*tabs, &QTabWidget::tabText).join('|'),
+              "Survey|Perfos|Zones|Markers A|Markers B|Pipes|Pipe Strings|Components|Misc");
     EXPECT_EQ(tabs->widget(3)->findChild<QLabel*>("PasteFormat")->text(),
               "Paste Format: 12,345.67 <TAB> Description");
 

@@ -8,8 +8,6 @@
 
 #include <QSignalSpy>
 
-#include <gtest/gtest.h>
-
 namespace {
 QByteArray const WELL = R"({
   "Metric Depth": true, "Well Name": "File",

@@ -5,10 +5,6 @@
 
 #include "support/TestFiles.h"
 
-#include <QJsonArray>
-
-#include <gtest/gtest.h>
-
 namespace {
 QByteArray const WELL = R"({
   "Metric Depth": true, "Well Name": "Brønn 7",

@@ -7,13 +7,6 @@
 #include "support/Pixels.h"
 #include "well/SketchWell.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <map>
-
 using sketch_well::Sketch;
 using sketch_well::Strings;
 using testing::ElementsAre;

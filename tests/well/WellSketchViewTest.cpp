@@ -4,7 +4,7 @@
 #include "well/WellSketchView.h"
 
 #include "display/ViewBench.h"
-#include "support/Pixels.h"
+#include "support/Texts.h"
 #include "well/ComponentInfoOverlay.h"
 #include "well/SketchWell.h"
 #include "well/WellComponentInfo.h"
@@ -15,10 +15,7 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QPointer>
-#include <QSignalSpy>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace {
 using Type = WellComponentType;
@@ -161,13 +158,10 @@ TEST_F(WellSketchViewTest, TheOverlayShowsDepthsInTheSettingsUnitUntilAClick)
     overlay->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&parent));
     EXPECT_EQ(overlay->size(), parent.size());
-    QStringList texts;
-    for (auto const* edit : overlay->findChildren<QLineEdit*>()) {
-        EXPECT_TRUE(edit->isReadOnly());
-        texts << edit->text();
-    }
+    auto const edits = overlay->findChildren<QLineEdit*>();
+    EXPECT_TRUE(std::all_of(edits.begin(), edits.end(), std::mem_fn(&QLineEdit::isReadOnly)));
     // 3.28084 feet per metre.
-    EXPECT_EQ(texts, QStringList({"valve", "328.08", "656.17", "0.00", "492.13"}));
+    EXPECT_EQ(Texts(edits, &QLineEdit::text), QStringList({"valve", "328.08", "656.17", "0.00", "492.13"}));
 
     auto* const info = overlay->findChild<WellComponentInfo*>();
     EXPECT_NEAR(info->geometry().center().x(), 400, 2);

@@ -15,8 +15,6 @@
 #include <QElapsedTimer>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 // Copy, paste and delete of each table through the clipboard and the keys.
 
 namespace {

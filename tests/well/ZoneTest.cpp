@@ -4,12 +4,9 @@
 #include "well/Zone.h"
 
 #include "support/Pixels.h"
+#include "support/Texts.h"
 #include "well/WellComponentType.h"
 #include "well/ZoneTrack.h"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace {
 QImage Painted(Zone const& zone, int y, int height)
@@ -54,11 +51,7 @@ TEST(ZoneTrack, SortsByDepth)
     track.SetZones({Zone({nan, 1}, "n", Qt::red), Zone({5, 9}, "c", Qt::red), Zone({1, 9}, "b", Qt::red),
                     Zone({1, 2}, "a", Qt::red)});
     track.SortZones();
-    QString order;
-    for (Zone const& zone : track.GetZones()) {
-        order += zone.GetDescription();
-    }
-    EXPECT_EQ(order, "abcn");
+    EXPECT_EQ(Texts(track.GetZones(), &Zone::GetDescription).join(""), "abcn");
 }
 
 TEST(WellComponentType, NamesBothWays)

@@ -5,15 +5,10 @@
 
 #include "display/BaseScaleView.h"
 #include "display/ViewBench.h"
-#include "support/Pixels.h"
 #include "well/WellViewFactory.h"
 #include "well/ZoneCombinedViewWidget.h"
 
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-#include <limits>
 
 namespace {
 QColor const red(Qt::red);

@@ -6,8 +6,6 @@
 #include <QApplication>
 #include <QPalette>
 
-#include <gtest/gtest.h>
-
 TEST(ColorScheme, FollowsTheApplicationPalette)
 {
     QPalette const light(Qt::white);

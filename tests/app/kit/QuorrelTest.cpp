@@ -3,27 +3,15 @@
 
 #include "app/kit/Quorrel.h"
 
-#include "app/kit/SettingsSingleton.h"
+#include "support/NumberFormats.h"
 
 #include <QWidget>
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <stdexcept>
 
 namespace {
 class NumericKit : public ::testing::Test
 {
 protected:
-    void TearDown() override
-    {
-        settings.SetSeparatorSelection(US);
-        settings.SetMetricDepth(false);
-    }
-
-    SettingsSingleton& settings = SettingsSingleton::Instance();
+    NumberFormatScope scope_{{US, false}};
 };
 
 constexpr char16_t narrow_no_break_space = u'\u202F';
@@ -31,22 +19,11 @@ constexpr char16_t narrow_no_break_space = u'\u202F';
 
 TEST_F(NumericKit, FormatsInTheSelectedFormat)
 {
-    struct Case
-    {
-        Separator_Selection selection;
-        QString small, large, scientific;
-    };
-    QString const grouped_french =
-        QStringLiteral("1") + QChar(narrow_no_break_space) + QStringLiteral("234,50");
-    for (Case const& c :
-         {Case{US, "1.50", "1,234.50", "1.23e+03"}, Case{International, "1,50", "1.234,50", ""},
-          Case{AlternativeInternational, "1,50", grouped_french, ""}}) {
-        settings.SetSeparatorSelection(c.selection);
-        EXPECT_EQ(Quorrel::FloatTypeToString(1.5F, 2, false), c.small);
-        EXPECT_EQ(Quorrel::FloatTypeToString(1234.5F, 2, false), c.large);
-        if (!c.scientific.isEmpty()) {
-            EXPECT_EQ(Quorrel::FloatTypeToString(1234.5F, 2, true).toLower(), c.scientific);
-        }
+    for (auto const& format : NumberFormat::All()) {
+        NumberFormatScope::Set(format);
+        EXPECT_EQ(Quorrel::FloatTypeToString(1.5F, 2, false), format.Text("1.50"));
+        EXPECT_EQ(Quorrel::FloatTypeToString(1234.5F, 2, false), format.Text("1,234.50"));
+        EXPECT_EQ(Quorrel::FloatTypeToString(1234.5F, 2, true).toLower(), format.Text("1.23e+03"));
     }
 }
 
@@ -67,7 +44,7 @@ TEST_F(NumericKit, ReadsOnlyTheSelectedFormat)
     EXPECT_FALSE(ok);
     EXPECT_EQ(Quorrel::StringToFloatType(QString()), 0.0F);
 
-    settings.SetSeparatorSelection(International);
+    NumberFormatScope::Set({International, false});
     EXPECT_EQ(Quorrel::StringToFloatType("1.234,5", &ok), 1234.5F);
     EXPECT_TRUE(ok);
     // "." groups here, so this is another number rather than a fault.
@@ -82,7 +59,7 @@ TEST_F(NumericKit, CopiedTextParsesOnlyWithBlanksAsGroups)
         QString const cleaned = Quorrel::ParseCopiedText(copied);
         EXPECT_EQ(cleaned, "1 234,5");
         for (auto const selection : {US, International, AlternativeInternational}) {
-            settings.SetSeparatorSelection(selection);
+            NumberFormatScope::Set({selection, false});
             bool ok = false;
             float const number = Quorrel::StringToFloatType(cleaned, &ok);
             EXPECT_EQ(ok, selection == AlternativeInternational) << selection;
@@ -100,12 +77,12 @@ TEST_F(NumericKit, ConvertsInSinglePrecision)
     EXPECT_EQ(Quorrel::SettingsDepthToMetricDepth(1000.0F), 304.800018310546875F);
     EXPECT_EQ(Quorrel::MetricsDepthToSettingsDepth(1000.0F), 3280.83984375F);
     EXPECT_EQ(Quorrel::ConvertDoglegSeverityToSettingsUnit(2.0F), 2.032F);
-    EXPECT_EQ(settings.GetDepthUnit(), "ft");
-    settings.SetMetricDepth(true);
+    EXPECT_EQ(SettingsSingleton::Instance().GetDepthUnit(), "ft");
+    NumberFormatScope::Set({US, true});
     EXPECT_EQ(Quorrel::SettingsDepthToMetricDepth(1000.0F), 1000.0F);
     EXPECT_EQ(Quorrel::MetricsDepthToSettingsDepth(1000.0F), 1000.0F);
     EXPECT_EQ(Quorrel::ConvertDoglegSeverityToSettingsUnit(2.0F), 2.0F);
-    EXPECT_EQ(settings.GetDepthUnit(), "m");
+    EXPECT_EQ(SettingsSingleton::Instance().GetDepthUnit(), "m");
 
     // The factors of whole vectors are the single-precision constants in double.
     EXPECT_EQ(Quorrel::FEET_TO_METRES, 0.30480000376701355);
@@ -128,11 +105,12 @@ TEST_F(NumericKit, PercentilesTakeTheSampleAtTheTruncatedIndex)
     std::vector<float> const values{50, 10, 40, 20, 30};
     EXPECT_EQ(Quorrel::GetPercentiles(values, 0.5F, 0.99F, 0.0F), std::make_tuple(30.0F, 50.0F, 10.0F));
     EXPECT_EQ(Quorrel::GetPercentiles(values, 0.19F, 0.2F, 0.61F), std::make_tuple(10.0F, 20.0F, 40.0F));
-    EXPECT_THROW((void)Quorrel::GetPercentiles(values, 0.1F, 0.2F, 1.0F), std::out_of_range);
-    EXPECT_THROW((void)Quorrel::GetPercentiles(values, 1.0F, 0.2F, 0.3F), std::out_of_range);
     EXPECT_THROW((void)Quorrel::GetPercentiles({}, 0.0F, 0.0F, 0.0F), std::out_of_range);
-    EXPECT_THROW((void)Quorrel::GetPercentiles(values, -0.5F, 0.2F, 0.3F), std::out_of_range);
-    EXPECT_THROW((void)Quorrel::GetPercentiles(values, 0.1F, std::nanf(""), 0.3F), std::out_of_range);
+    for (float const wrong : {1.0F, -0.5F, std::nanf("")}) {
+        EXPECT_THROW((void)Quorrel::GetPercentiles(values, wrong, 0.2F, 0.3F), std::out_of_range);
+        EXPECT_THROW((void)Quorrel::GetPercentiles(values, 0.1F, wrong, 0.3F), std::out_of_range);
+        EXPECT_THROW((void)Quorrel::GetPercentiles(values, 0.1F, 0.2F, wrong), std::out_of_range);
+    }
 }
 
 TEST_F(NumericKit, PercentilesOfSamplesWithNaNStayInBounds)

@@ -12,25 +12,15 @@
 #include <QFile>
 #include <QLocale>
 
-#include <gtest/gtest.h>
-
+#include <array>
 #include <clocale>
 #include <locale>
-#include <set>
-#include <stdexcept>
-#include <string>
 #include <type_traits>
 #include <unistd.h>
-#include <vector>
 
-using Floats = std::vector<float>;
-using Doubles = std::vector<double>;
-using las_test::FileV2;
-using las_test::Load;
-using las_test::Refusal;
+using namespace las_test;
 
 namespace {
-std::string const GOOD_ROWS = "1.0 10 2.10\n1.5 20 2.20\n2.0 30 2.30\n";
 std::string const GOOD_FILE = FileV2("1.0", "2.0", "0.5", GOOD_ROWS);
 
 /// The data part of the refusal for a bad index.
@@ -42,13 +32,6 @@ std::string IndexRefusal(std::string const& previous, std::string const& current
            previous + "   Current index: " + current + "  Expected: " + expected;
 }
 
-std::string InvalidValue(std::string const& word)
-{
-    return " Invalid value in ASCII data-section of LAS-file. Only numeric values are allowed here. Consider "
-           "replacing "
-           "the invalid value with \"-999.25\" in a text editor and try again. Invalid value found: " +
-           word;
-}
 } // namespace
 
 TEST(LASFile, LoadsAFileOfVersion2)
@@ -187,12 +170,9 @@ TEST(LASFile, RefusesBadData)
     EXPECT_EQ(refusal(GOOD_ROWS + "~Other\n"), InvalidValue("~Other"));
     EXPECT_EQ(refusal(""), "Expected number of data-rows: 3   Actual rows read: 0");
     EXPECT_EQ(refusal(GOOD_ROWS + "2.5 40 2.4"), "Expected number of data-rows: 3   Actual rows read: 4");
-    EXPECT_EQ(refusal("1.0 10"),
-              "Reached end of LAS file in the middle of data conversion in data-row: 1 out of 3 - "
-              "at column: 2 out of 2");
-    EXPECT_EQ(refusal("1.0 10 2.1 1.5"),
-              "Reached end of LAS file in the middle of data conversion in data-row: 2 out "
-              "of 3 - at column: 1 out of 2");
+    std::string const end = "Reached end of LAS file in the middle of data conversion in data-row: ";
+    EXPECT_EQ(refusal("1.0 10"), end + "1 out of 3 - at column: 2 out of 2");
+    EXPECT_EQ(refusal("1.0 10 2.1 1.5"), end + "2 out of 3 - at column: 1 out of 2");
     EXPECT_EQ(refusal(GOOD_ROWS + "\n,,\n"),
               "Reached end of LAS file before the depth/time(first) column at data-row number: 4");
     EXPECT_EQ(refusal("1.0 10 2.1\n1.6 20 2.2"), IndexRefusal("1.000000", "1.600000", "1.500000"));
@@ -207,12 +187,12 @@ TEST(LASFile, RefusesBadData)
 
 TEST(LASFile, RefusesBadHeaders)
 {
-    EXPECT_EQ(Refusal(""), "Undefined Mnem: VERS");
-    EXPECT_EQ(Refusal("no section"), "Undefined Mnem: VERS");
-    EXPECT_EQ(Refusal("~V\nvers. 2.0 : lower case\n"), "Undefined Mnem: VERS");
-    EXPECT_EQ(Refusal("~V\nVERS. 1.2 :\n"), "Unknown Version: 1.2");
-    EXPECT_EQ(Refusal("~V\nVERS. 2.1 :\n"), "Unknown Version: 2.1");
-    EXPECT_EQ(Refusal("~V\nVERS. 3 :\n"), "Unknown Version: 3");
+    for (char const* text : {"", "no section", "~V\nvers. 2.0 : lower case\n"}) {
+        EXPECT_EQ(Refusal(text), "Undefined Mnem: VERS");
+    }
+    for (std::string const version : {"1.2", "2.1", "3"}) {
+        EXPECT_EQ(Refusal("~V\nVERS. " + version + " :\n"), "Unknown Version: " + version);
+    }
     EXPECT_EQ(Refusal("~V\nVERS. 2.00 :\n"), "");
     std::string const no_space =
         "\"DLM\" is not equal to \"SPACE\". Only LAS Files with \"SPACE\" delimiter are supported";
@@ -234,31 +214,25 @@ TEST(LASFile, RefusesBadHeaders)
 TEST(LASFile, DepthsOfAnEmptyWellSectionAreRefusedByName)
 {
     LASFile const file;
-    auto const text = [](auto const& call) -> std::string {
-        try {
-            call();
-        } catch (std::invalid_argument const& exception) {
-            return exception.what();
-        }
-        return {};
-    };
-    std::string const rest = " Function called before loading Well Info header section has been loaded";
-    EXPECT_EQ(text([&] { (void)file.GetStartDepth(); }), "DataValueType LASFile::GetStartDepth()" + rest);
-    EXPECT_EQ(text([&] { (void)file.GetStopDepth(); }), "DataValueType LASFile::GetStopDepth()" + rest);
-    EXPECT_EQ(text([&] { (void)file.GetDepthStep(); }), "DataValueType LASFile::GetDepthStep()" + rest);
+    for (auto const& [name, get] : {std::pair("GetStartDepth", &LASFile::GetStartDepth),
+                                    std::pair("GetStopDepth", &LASFile::GetStopDepth),
+                                    std::pair("GetDepthStep", &LASFile::GetDepthStep)}) {
+        EXPECT_EQ(MessageOf<std::invalid_argument>([&] { (void)(file.*get)(); }),
+                  std::string("DataValueType LASFile::") + name +
+                      "() Function called before loading Well Info header section has been loaded");
+    }
 }
 
 TEST(LASFile, HugeHeaderNumbersAreNoBurden)
 {
     // The row count does not fit; nothing of the sort is reserved.
-    EXPECT_EQ(Refusal(FileV2("0", "1e30", "1", "0 1 2")),
-              "Expected number of data-rows: 9223372036854775807   Actual rows read: 1");
-    EXPECT_EQ(Refusal(FileV2("0", "4000000000", "1", "0 1 2")),
-              "Expected number of data-rows: 4000000000   Actual rows read: 1");
-    EXPECT_EQ(Refusal(FileV2("nan", "1", "1", "0 1 2")),
-              "Expected number of data-rows: 0   Actual rows read: 1");
-    EXPECT_EQ(Refusal(FileV2("0", "1", "1e-30", "0 1 2")),
-              "Expected number of data-rows: 9223372036854775807   Actual rows read: 1");
+    for (auto const& [start, stop, step, rows] :
+         {std::array{"0", "1e30", "1", "9223372036854775807"},
+          std::array{"0", "4000000000", "1", "4000000000"}, std::array{"nan", "1", "1", "0"},
+          std::array{"0", "1", "1e-30", "9223372036854775807"}}) {
+        EXPECT_EQ(Refusal(FileV2(start, stop, step, "0 1 2")),
+                  std::string("Expected number of data-rows: ") + rows + "   Actual rows read: 1");
+    }
     // A number of 60 digits wraps, but it is a number.
     EXPECT_EQ(Load(FileV2("1", "1", "1", "1 " + std::string(60, '9') + " 2")).GetDepthVector().size(), 1U);
 }
@@ -318,15 +292,9 @@ TEST(LASFile, AStreamThatStopsEarlyIsRefused)
     };
     Broken buffer(GOOD_FILE, 100);
     std::istream stream(&buffer);
-    try {
-        LASFile file(stream);
-        FAIL() << "loaded";
-    } catch (std::exception const& exception) {
-        std::string const size = std::to_string(GOOD_FILE.size());
-        EXPECT_EQ(std::string(exception.what()),
-                  "Stopped reading LAS File at position: " + size + "   End-position: " +
-                      std::to_string(GOOD_FILE.size() + 100) + "   Unread characters: 100");
-    }
+    EXPECT_EQ(MessageOf([&] { LASFile const file(stream); }),
+              "Stopped reading LAS File at position: " + std::to_string(GOOD_FILE.size()) +
+                  "   End-position: " + std::to_string(GOOD_FILE.size() + 100) + "   Unread characters: 100");
 }
 
 TEST(LASFile, OpensFilesOfAnyNameAndRefusesWhatIsNoFile)
@@ -338,13 +306,9 @@ TEST(LASFile, OpensFilesOfAnyNameAndRefusesWhatIsNoFile)
     EXPECT_EQ(file.GetFileInfo().filePath(), path);
     EXPECT_EQ(file.GetDepthVector().size(), 3U);
 
-    auto const refusal = [](QString const& name) -> std::string {
-        try {
-            LASFile const missing(QFile::encodeName(name).toStdString());
-        } catch (std::invalid_argument const& exception) {
-            return exception.what();
-        }
-        return {};
+    auto const refusal = [](QString const& name) {
+        return MessageOf<std::invalid_argument>(
+            [&] { LASFile const file(QFile::encodeName(name).toStdString()); });
     };
     QString const missing = folder.Path("none.las");
     EXPECT_EQ(refusal(missing), "Error Msg: No such file or directory\nFilepath: " + missing.toStdString());

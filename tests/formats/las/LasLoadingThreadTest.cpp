@@ -8,13 +8,7 @@
 
 #include <QEventLoop>
 #include <QObject>
-#include <QPointer>
 #include <QTimer>
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <vector>
 
 namespace {
 struct Result

@@ -2,16 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "LasTestFiles.h"
+#include "support/Programs.h"
 #include "support/TestFiles.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
 
 namespace {
 #if defined(__SANITIZE_ADDRESS__) || !defined(__linux__)
@@ -29,11 +24,9 @@ struct Measurement
 /// Loads the file in a process of its own.
 Measurement Measure(QString const& path)
 {
-    QProcess process;
-    process.start(QUORREL_LAS_MEMORY_PROGRAM, {path});
-    EXPECT_TRUE(process.waitForFinished(120'000));
-    EXPECT_EQ(process.exitCode(), 0);
-    std::string const output = process.readAllStandardOutput().toStdString();
+    auto const [exit_code, text] = RunProgram(QUORREL_LAS_MEMORY_PROGRAM, {path});
+    EXPECT_EQ(exit_code, 0);
+    std::string const output = text.toStdString();
     std::size_t const blank = output.find(' ');
     if (blank == std::string::npos) {
         ADD_FAILURE() << "no measurement of " << path.toStdString();

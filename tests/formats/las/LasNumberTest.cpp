@@ -3,17 +3,11 @@
 
 #include "formats/las/LasNumber.h"
 #include "formats/las/FileBuffer.h"
-
-#include <gtest/gtest.h>
+#include "formats/las/LasTestFiles.h"
 
 #include <charconv>
-#include <cmath>
-#include <cstdio>
 #include <random>
 #include <sstream>
-#include <stdexcept>
-#include <string>
-#include <vector>
 
 namespace {
 std::vector<double> Numbers(std::string const& text)
@@ -39,18 +33,9 @@ std::vector<double> Numbers(std::string const& text)
 
 std::string Failure(std::string const& text)
 {
-    try {
-        Numbers(text);
-    } catch (std::exception const& exception) {
-        return exception.what();
-    }
-    return {};
+    return MessageOf([&text] { Numbers(text); });
 }
 
-std::string const INVALID_VALUE =
-    " Invalid value in ASCII data-section of LAS-file. Only numeric values are allowed here. Consider "
-    "replacing the "
-    "invalid value with \"-999.25\" in a text editor and try again. Invalid value found: ";
 std::string const TOO_MANY_DECIMALS =
     "Number of decimals exceed floating point converter capability. Following number failed to convert: ";
 } // namespace
@@ -113,11 +98,11 @@ TEST(LasNumber, ReadsPlainDecimals)
 
 TEST(LasNumber, RefusesWordsAndTooManyDecimals)
 {
-    EXPECT_EQ(Failure("NaN"), INVALID_VALUE + "NaN");
-    EXPECT_EQ(Failure("1.0E+3"), INVALID_VALUE + "E");
-    EXPECT_EQ(Failure("5 abc_~x 6"), INVALID_VALUE + "abc_~x");
-    EXPECT_EQ(Failure("1 inf2"), INVALID_VALUE + "inf");
-    EXPECT_EQ(Failure("Z"), INVALID_VALUE + "Z");
+    EXPECT_EQ(Failure("NaN"), las_test::InvalidValue("NaN"));
+    EXPECT_EQ(Failure("1.0E+3"), las_test::InvalidValue("E"));
+    EXPECT_EQ(Failure("5 abc_~x 6"), las_test::InvalidValue("abc_~x"));
+    EXPECT_EQ(Failure("1 inf2"), las_test::InvalidValue("inf"));
+    EXPECT_EQ(Failure("Z"), las_test::InvalidValue("Z"));
     EXPECT_EQ(Failure("7 0.123456789012345678901 8"), TOO_MANY_DECIMALS + "0.123456789012345678901");
     EXPECT_EQ(Failure("-1.000000000000000000000"), TOO_MANY_DECIMALS + "-1.000000000000000000000");
     EXPECT_THROW(Numbers("x"), std::logic_error);
@@ -131,12 +116,12 @@ TEST(LasNumber, ReadsAcrossBlocks)
         std::string const blanks(block - in_block, ' ');
         EXPECT_EQ(Numbers(blanks + "-123.456 7"), (std::vector<double>{-(123.0 + 456 * 1e-3), 7.0}))
             << in_block;
-        EXPECT_EQ(Failure(blanks + "abcdefgh"), INVALID_VALUE + "abcdefgh") << in_block;
+        EXPECT_EQ(Failure(blanks + "abcdefgh"), las_test::InvalidValue("abcdefgh")) << in_block;
     }
     EXPECT_EQ(Numbers(std::string(2 * block, '0') + "42." + std::string(19, '0')), std::vector<double>{42.0});
     EXPECT_EQ(Numbers(std::string(block, ' ')), std::vector<double>{});
     // Texts without end are told in part.
-    EXPECT_EQ(Failure(std::string(3 * block, 'x')), INVALID_VALUE + std::string(1000, 'x'));
+    EXPECT_EQ(Failure(std::string(3 * block, 'x')), las_test::InvalidValue(std::string(1000, 'x')));
     EXPECT_EQ(Failure("." + std::string(3 * block, '7')), TOO_MANY_DECIMALS + "." + std::string(999, '7'));
 }
 

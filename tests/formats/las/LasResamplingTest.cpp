@@ -3,10 +3,6 @@
 
 #include "formats/las/LasResampling.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
-
 using Floats = std::vector<float>;
 
 namespace {

@@ -6,54 +6,36 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdio>
-#include <string>
-#include <vector>
 
 namespace {
-/// Every text with which a file of numbers and headers may be refused.
+/// How the texts begin with which a file of numbers and headers may be refused. LASFileTest has them in full.
 bool IsKnownRefusal(std::string const& text)
 {
-    static QString const number = "-?\\d+(?:\\.\\d+)?";
-    static std::vector<QString> const refusals = {
-        QString("\"DLM\" is not equal to \"SPACE\"\\. Only LAS Files with \"SPACE\" delimiter are supported"),
-        QString("Unknown Version: .*"),
-        QString("Undefined Mnem: (?:VERS|STRT|STOP|STEP)"),
-        QString("Incorrect LAS File header\\. Check STRT, STOP and STEP parameters to confirm that they are "
-                "valid"),
-        QString(" Invalid value in ASCII data-section of LAS-file\\. Only numeric values are allowed here\\. "
-                "Consider replacing the invalid value with \"-999\\.25\" in a text editor and try again\\. "
-                "Invalid value found: .+"),
-        QString("Reached end of LAS file before the depth/time\\(first\\) column at data-row number: \\d+"),
-        QString("Number of decimals exceed floating point converter capability\\. Following number failed to "
-                "convert: .+"),
-        QString(
-            " Incorrect consecutive index in LAS-File\\. Consider opening the file in a text editor, go to "
-            "the previous index time/depth and look for errors\\. Previous index: " +
-            number + "   Current index: " + number + "  Expected: " + number),
-        QString("Reached end of LAS file in the middle of data conversion in data-row: \\d+ out of \\d+ - at "
-                "column: \\d+ out of \\d+"),
-        QString("Expected number of data-rows: \\d+   Actual rows read: \\d+"),
-        QString("Quorrel only supports LAS V\\.3 files containing one run\\. Actual runs in file: .+"),
-        QString("String format\\{S\\} for logging data-columns not supported"),
-        QString("LASDataFileMatrix LASFile::LoadDataSectionV3\\(std::ifstream&, std::string\\) Unknown "
-                "definition for LAS v3 file: .*"),
-        QString("bad optional access"),
-        QString("Expected number of columns are: \\d+ Actual number of columns are: \\d+"),
-        QString("At depth: " + number + " - Expected STEP is: " + number +
-                " (m|ft) Actual STEP is: " + number + " (m|ft)"),
-        QString("Did not read expected number of rows: Expected: -?\\d+    Actual: \\d+"),
-        QString("The LAS V\\.3 file has no data section"),
+    static std::vector<std::string> const refusals = {
+        "\"DLM\" is not equal to \"SPACE\".",
+        "Unknown Version: ",
+        "Undefined Mnem: VERS",
+        "Undefined Mnem: STRT",
+        "Undefined Mnem: STOP",
+        "Undefined Mnem: STEP",
+        "Incorrect LAS File header. Check STRT, STOP and STEP",
+        " Invalid value in ASCII data-section of LAS-file.",
+        "Reached end of LAS file before the depth/time(first) column at data-row number: ",
+        "Number of decimals exceed floating point converter capability.",
+        " Incorrect consecutive index in LAS-File.",
+        "Reached end of LAS file in the middle of data conversion in data-row: ",
+        "Expected number of data-rows: ",
+        "Quorrel only supports LAS V.3 files containing one run.",
+        "String format{S} for logging data-columns not supported",
+        "LASDataFileMatrix LASFile::LoadDataSectionV3(std::ifstream&, std::string) Unknown definition ",
+        "bad optional access",
+        "Expected number of columns are: ",
+        "At depth: ",
+        "Did not read expected number of rows: ",
+        "The LAS V.3 file has no data section",
     };
-    QString const whole = QString::fromStdString(text);
-    return std::any_of(refusals.begin(), refusals.end(), [&whole](QString const& refusal) {
-        return QRegularExpression(QRegularExpression::anchoredPattern(refusal)).match(whole).hasMatch();
-    });
+    return std::any_of(refusals.begin(), refusals.end(),
+                       [&text](std::string const& refusal) { return text.starts_with(refusal); });
 }
 
 void ExpectInvariants(LASFile const& file, std::string const& name)

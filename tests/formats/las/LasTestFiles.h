@@ -5,14 +5,25 @@
 
 #include "formats/las/LASFile.h"
 
-#include <gtest/gtest.h>
-
 #include <sstream>
-#include <string>
-#include <typeinfo>
 
 /// LAS files made in memory for tests.
 namespace las_test {
+using Floats = std::vector<float>;
+using Doubles = std::vector<double>;
+
+/// Three rows of DEPT, GR and RHOB from 1 to 2 m.
+inline std::string const GOOD_ROWS = "1.0 10 2.10\n1.5 20 2.20\n2.0 30 2.30\n";
+
+/// The text that refuses a word among the numbers.
+inline std::string InvalidValue(std::string const& word)
+{
+    return " Invalid value in ASCII data-section of LAS-file. Only numeric values are allowed here. Consider "
+           "replacing the invalid value with \"-999.25\" in a text editor and try again. Invalid value "
+           "found: " +
+           word;
+}
+
 inline LASFile Load(std::string const& content)
 {
     std::istringstream stream(content);
@@ -23,24 +34,11 @@ inline LASFile Load(std::string const& content)
 inline std::string FileV2(std::string const& start, std::string const& stop, std::string const& step,
                           std::string const& data)
 {
-    return "~Version\n"
-           " VERS. 2.0 : CWLS LOG ASCII STANDARD\n"
-           " WRAP. NO  : ONE LINE PER DEPTH STEP\n"
-           "~Well\n"
-           " STRT.M " +
-           start +
-           " : START\n"
-           " STOP.M " +
-           stop +
-           " : STOP\n"
-           " STEP.M " +
-           step +
-           " : STEP\n"
-           " NULL.  -999.25 : NULL VALUE\n"
-           "~Curves\n"
-           " DEPT.M   : 1 DEPTH\n"
-           " GR.GAPI  : 2 GAMMA RAY\n"
-           " RHOB.K/M3 45 350 01 00 : 3 BULK DENSITY\n"
+    return "~Version\n VERS. 2.0 : CWLS LOG ASCII STANDARD\n WRAP. NO  : ONE LINE PER DEPTH STEP\n"
+           "~Well\n STRT.M " +
+           start + " : START\n STOP.M " + stop + " : STOP\n STEP.M " + step +
+           " : STEP\n NULL.  -999.25 : NULL VALUE\n"
+           "~Curves\n DEPT.M   : 1 DEPTH\n GR.GAPI  : 2 GAMMA RAY\n RHOB.K/M3 45 350 01 00 : 3 BULK DENSITY\n"
            "~A DEPT GR RHOB\n" +
            data;
 }
@@ -49,29 +47,15 @@ inline std::string FileV2(std::string const& start, std::string const& stop, std
 inline std::string FileV3(std::string const& start, std::string const& stop, std::string const& step,
                           std::string const& sections)
 {
-    return "~Version\n"
-           " VERS. 3.0   : CWLS LOG ASCII STANDARD\n"
-           " WRAP. NO    : ONE LINE PER DEPTH STEP\n"
-           " DLM . SPACE : DELIMITER\n"
-           "~Well\n"
-           " STRT.M " +
-           start +
-           " : First index {F}\n"
-           " STOP.M " +
-           stop +
-           " : Last index {F}\n"
-           " STEP.M " +
-           step + " : Step {F}\n" + sections;
+    return "~Version\n VERS. 3.0   : CWLS LOG ASCII STANDARD\n WRAP. NO    : ONE LINE PER DEPTH STEP\n"
+           " DLM . SPACE : DELIMITER\n~Well\n STRT.M " +
+           start + " : First index {F}\n STOP.M " + stop + " : Last index {F}\n STEP.M " + step +
+           " : Step {F}\n" + sections;
 }
 
 /// The text with which the file is refused; empty when it loads.
 inline std::string Refusal(std::string const& content)
 {
-    try {
-        Load(content);
-    } catch (std::exception const& exception) {
-        return exception.what();
-    }
-    return {};
+    return MessageOf([&content] { Load(content); });
 }
 } // namespace las_test

@@ -4,10 +4,7 @@
 #include "formats/las/ParameterDataLine.h"
 #include "formats/las/HeaderSection.h"
 
-#include <gtest/gtest.h>
-
 #include <array>
-#include <string>
 
 namespace {
 struct Case

@@ -4,8 +4,6 @@
 #include "formats/las/TextFile.h"
 #include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
 using Columns = std::vector<std::vector<std::string>>;
 
 namespace {

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include <QByteArray>
-
 #include <cstdint>
 #include <cstring>
 #include <initializer_list>

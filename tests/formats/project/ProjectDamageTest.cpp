@@ -3,8 +3,6 @@
 
 // Damaged project files load or tell why not: without a crash, in time and within bounds of memory.
 
-#include "formats/project/ProjectFile.h"
-
 #include "formats/project/SmallProject.h"
 #include "model/BaseLogPassRecord.h"
 #include "model/DataContainer.h"
@@ -13,7 +11,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 
-#include <algorithm>
 #include <new>
 #include <random>
 

@@ -11,10 +11,6 @@
 #include <QDir>
 #include <QFile>
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
-
 namespace {
 #ifdef Q_OS_LINUX
 /// Size of an object of these members in this order; its virtual functions count as one pointer, its base as

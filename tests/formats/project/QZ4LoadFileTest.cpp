@@ -4,13 +4,9 @@
 #include "formats/project/QZ4LoadFile.h"
 
 #include "formats/project/ByteBuilder.h"
-#include "formats/project/ProjectFile.h"
 #include "formats/project/SmallProject.h"
 #include "model/DataContainer.h"
 #include "support/TestFiles.h"
-
-#include <stdexcept>
-#include <string>
 
 namespace {
 using B = ByteBuilder;

@@ -16,8 +16,6 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <optional>
-#include <set>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
 #include <sys/user.h>

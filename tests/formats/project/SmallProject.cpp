@@ -10,7 +10,6 @@
 #include <QPen>
 
 #include <array>
-#include <tuple>
 #include <type_traits>
 
 namespace {

@@ -5,8 +5,6 @@
 
 #include "formats/project/ProjectFile.h"
 
-#include <QByteArray>
-
 class DataContainer;
 
 /// A project with something of everything, once as a model and once as the bytes of its file, put together

@@ -3,35 +3,7 @@
 
 #include "display/DepthGeometry.h"
 
-#include <cmath>
-#include <limits>
-
 namespace Quorrel {
-int TruncateToInt(double value)
-{
-    // Compared before the conversion, which is undefined outside int's range.
-    if (value >= static_cast<double>(std::numeric_limits<int>::max())) {
-        return std::numeric_limits<int>::max();
-    }
-    if (value <= static_cast<double>(std::numeric_limits<int>::min())) {
-        return std::numeric_limits<int>::min();
-    }
-    return std::isnan(value) ? 0 : static_cast<int>(value);
-}
-
-int RoundToInt(double value)
-{
-    int const truncated = TruncateToInt(value);
-    double const rest = value - truncated;
-    if (rest >= 0.5 && truncated < std::numeric_limits<int>::max()) {
-        return truncated + 1;
-    }
-    if (rest <= -0.5 && truncated > std::numeric_limits<int>::min()) {
-        return truncated - 1;
-    }
-    return truncated;
-}
-
 int ConvertDepthToYValue(float depth, int height, Interval const& interval)
 {
     double const delta = interval.upper - interval.lower;

@@ -5,13 +5,42 @@
 
 #include "app/kit/Interval.h"
 
+#include <cmath>
 #include <cstddef>
+#include <limits>
 
 /// The one mapping between depths, values, samples and pixels that all views share. `height` and `width` are
 /// those of the painted area in pixels; depth intervals in metres. Results that no pixel or index can hold
 /// saturate, undefined ones (an interval of no length, NaN) are 0, so that nothing here is ever out of an
 /// integer's range.
 namespace Quorrel {
+/// Truncates towards zero; saturates at the ends of int, 0 for NaN.
+[[nodiscard]] inline int TruncateToInt(double value)
+{
+    // Compared before the conversion, which is undefined outside int's range.
+    if (value >= static_cast<double>(std::numeric_limits<int>::max())) {
+        return std::numeric_limits<int>::max();
+    }
+    if (value <= static_cast<double>(std::numeric_limits<int>::min())) {
+        return std::numeric_limits<int>::min();
+    }
+    return std::isnan(value) ? 0 : static_cast<int>(value);
+}
+
+/// Rounds to nearest, halves away from zero; saturates at the ends of int, 0 for NaN.
+[[nodiscard]] inline int RoundToInt(double value)
+{
+    int const truncated = TruncateToInt(value);
+    double const rest = value - truncated;
+    if (rest >= 0.5 && truncated < std::numeric_limits<int>::max()) {
+        return truncated + 1;
+    }
+    if (rest <= -0.5 && truncated > std::numeric_limits<int>::min()) {
+        return truncated - 1;
+    }
+    return truncated;
+}
+
 /// Nearest row of `depth`: the interval's top is on row 0, its bottom on row height - 1.
 [[nodiscard]] int ConvertDepthToYValue(float depth, int height, Interval const& interval);
 
@@ -31,9 +60,4 @@ namespace Quorrel {
 
 /// Value under column `x`; the scale's lower end for a width below 1.
 [[nodiscard]] float ConvertXtoCurveValue(float x, Interval const& scale, int width);
-
-/// Truncates towards zero; saturates at the ends of int, 0 for NaN.
-[[nodiscard]] int TruncateToInt(double value);
-/// Rounds to nearest, halves away from zero; saturates at the ends of int, 0 for NaN.
-[[nodiscard]] int RoundToInt(double value);
 } // namespace Quorrel

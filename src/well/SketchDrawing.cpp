@@ -5,6 +5,7 @@
 
 #include "display/ClippedDrawing.h"
 
+#include <QLineF>
 #include <QPainter>
 
 #include <cmath>
@@ -12,9 +13,14 @@
 #include <vector>
 
 namespace {
-/// Ovals above this many windows are drawn as polygons, which can be cut.
-constexpr double TALL_WINDOWS = 2;
 constexpr int OVAL_CORNERS = 4000;
+
+/// Higher than this many windows a shape is drawn in a way that can be cut.
+bool IsTall(QPainter const& painter, QRectF const& frame)
+{
+    constexpr double TALL_WINDOWS = 2;
+    return !(frame.height() <= TALL_WINDOWS * painter.window().height());
+}
 } // namespace
 
 namespace Quorrel {
@@ -29,6 +35,19 @@ void DrawStroke(QPainter& painter, QPointF const& from, QPointF const& to)
     DrawPolylineClipped(painter, ends, 2);
 }
 
+void DrawCross(QPainter& painter, QRectF const& frame)
+{
+    QLineF const diagonals[] = {{frame.topLeft(), frame.bottomRight()},
+                                {frame.bottomLeft(), frame.topRight()}};
+    if (!IsTall(painter, frame)) {
+        painter.drawLines(diagonals, 2);
+        return;
+    }
+    for (QLineF const& diagonal : diagonals) {
+        DrawStroke(painter, diagonal.p1(), diagonal.p2());
+    }
+}
+
 void DrawFrame(QPainter& painter, QRectF const& frame)
 {
     DrawShape(painter, {frame.topLeft(), frame.topRight(), frame.bottomRight(), frame.bottomLeft()});
@@ -36,7 +55,7 @@ void DrawFrame(QPainter& painter, QRectF const& frame)
 
 void DrawOval(QPainter& painter, QRectF const& frame)
 {
-    if (frame.height() <= TALL_WINDOWS * painter.window().height()) {
+    if (!IsTall(painter, frame)) {
         painter.drawEllipse(frame);
         return;
     }

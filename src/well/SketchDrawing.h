@@ -15,6 +15,8 @@ class QPainter;
 namespace Quorrel {
 void DrawShape(QPainter& painter, std::initializer_list<QPointF> corners);
 void DrawStroke(QPainter& painter, QPointF const& from, QPointF const& to);
+/// Its diagonals.
+void DrawCross(QPainter& painter, QRectF const& frame);
 void DrawFrame(QPainter& painter, QRectF const& frame);
 void DrawOval(QPainter& painter, QRectF const& frame);
 } // namespace Quorrel

@@ -76,8 +76,7 @@ void WellSketchRenderer::DrawPackerElement(QPainter& painter, WellComponent cons
         double const x = side < 0 ? geometry.center - outer_radius : geometry.center + inner_radius;
         QRectF const box(x, geometry.top, width, geometry.height);
         painter.fillRect(box, Qt::red);
-        Quorrel::DrawStroke(painter, box.topLeft(), box.bottomRight());
-        Quorrel::DrawStroke(painter, box.bottomLeft(), box.topRight());
+        Quorrel::DrawCross(painter, box);
         CreateComponentBoundingBox(component, x, width, geometry.top, geometry.height);
     });
     painter.restore();

@@ -50,9 +50,7 @@ void WellSketchRenderer::DrawPlug(QPainter& painter, WellComponent const& compon
     SymbolPainter const symbol(painter, Qt::NoBrush);
     painter.fillRect(g.Rect(), scheme.component);
     painter.setPen(QPen(Qt::red, PLUG_CROSS_PEN, Qt::SolidLine, Qt::RoundCap));
-    QRectF const cross = g.Rect().adjusted(1, 1, -1, -1);
-    Quorrel::DrawStroke(painter, cross.topLeft(), cross.bottomRight());
-    Quorrel::DrawStroke(painter, cross.bottomLeft(), cross.topRight());
+    Quorrel::DrawCross(painter, g.Rect().adjusted(1, 1, -1, -1));
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 

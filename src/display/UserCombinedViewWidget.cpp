@@ -30,6 +30,7 @@ BaseDataView* UserCombinedViewWidget::GetBaseDataView()
 void UserCombinedViewWidget::FillContextMenu(QMenu& menu)
 {
     IntermediateCombinedViewWidget::FillContextMenu(menu);
-    menu.addAction(tr("Properties"), this,
-                   [this] { emit ShowUserDataViewProperties_Signal(view_->GetName()); });
+    QAction* const properties = menu.addAction(
+        tr("Properties"), this, [this] { emit ShowUserDataViewProperties_Signal(view_->GetName()); });
+    properties->setEnabled(false); // until there is a dialog that answers
 }

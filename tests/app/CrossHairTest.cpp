@@ -1,45 +1,42 @@
 // SPDX-FileCopyrightText: The Quorrel authors
 // SPDX-License-Identifier: MIT
 
-#include "app/QuorrelFrame.h"
-#include "app/kit/Globals.h"
-#include "app/kit/SettingsSingleton.h"
-#include "display/BaseViewWidget.h"
-#include "resources/Resources.h"
-#include "support/WaitFor.h"
+#include "app/FrameFixture.h"
 
-#include <QAction>
+#include "app/kit/Globals.h"
+#include "display/BaseViewWidget.h"
+
 #include <QMouseEvent>
 #include <QScreen>
-#include <QSignalSpy>
 
 // A move of the mouse repaints only the lines that change. Whatever the mouse did, the screen must show what
 // painting everything anew would show.
 
 namespace {
-class CrossHairTest : public testing::Test
+class CrossHairTest : public FrameFixture
 {
 protected:
     void SetUp() override
     {
-        qInitResources_Quorrel();
-        SettingsSingleton::Instance().SetAutomaticCheckForUpdates(false);
-        SettingsSingleton::Instance().SetIsMaximized(false);
-        frame.resize(1300, 800);
-        frame.show();
-        QSignalSpy loaded(&frame, &QuorrelFrame::ProjectLoaded_Signal);
-        frame.LoadProject(QUORREL_EXAMPLES "/demo.qz4");
+        FrameFixture::SetUp();
+        frame_->resize(1300, 800);
+        QSignalSpy loaded(frame_.get(), &QuorrelFrame::ProjectLoaded_Signal);
+        frame_->LoadProject(QUORREL_EXAMPLES "/demo.qz4");
         ASSERT_TRUE(WaitFor([&] { return !loaded.isEmpty(); }));
         ASSERT_TRUE(loaded[0][0].toBool());
     }
-    void TearDown() override { Quorrel::TRACKING_MODE = false; }
+    void TearDown() override
+    {
+        Quorrel::TRACKING_MODE = false;
+        FrameFixture::TearDown();
+    }
 
     void SelectSurvey(int index)
     {
-        frame.OnSurveyComboBoxSelection(index);
+        frame_->OnSurveyComboBoxSelection(index);
         Settle();
         views.clear();
-        QList<BaseViewWidget*> const all = frame.findChildren<BaseViewWidget*>();
+        QList<BaseViewWidget*> const all = frame_->findChildren<BaseViewWidget*>();
         for (BaseViewWidget* view : all) {
             if (view->isVisible() && !view->visibleRegion().isEmpty()) {
                 views.append(view);
@@ -65,9 +62,9 @@ protected:
 
     void ExpectScreenIsRight(char const* when)
     {
-        QImage const screen = frame.screen()->grabWindow(frame.winId()).toImage();
+        QImage const screen = frame_->screen()->grabWindow(frame_->winId()).toImage();
         for (BaseViewWidget* view : views) {
-            QRect const area(view->mapTo(&frame, QPoint(0, 0)), view->size());
+            QRect const area(view->mapTo(frame_.get(), QPoint(0, 0)), view->size());
             QRect const seen = area & view->visibleRegion().boundingRect().translated(area.topLeft());
             QImage const expected = view->grab().toImage().copy(seen.translated(-area.topLeft()));
             EXPECT_TRUE(screen.copy(seen).convertToFormat(QImage::Format_RGB32) ==
@@ -90,7 +87,6 @@ protected:
         }
     }
 
-    QuorrelFrame frame;
     QList<BaseViewWidget*> views;
 };
 } // namespace
@@ -110,7 +106,7 @@ TEST_F(CrossHairTest, TheScreenKeepsNoRemains)
     Send(view, QEvent::MouseButtonRelease, 0.7, 0.4, Qt::LeftButton);
     ExpectScreenIsRight("measured");
 
-    QAction* const tracking = frame.GetAction("&Tracking Mode [T]");
+    QAction* const tracking = frame_->GetAction("&Tracking Mode [T]");
     tracking->setChecked(true);
     MoveOverAllViews("tracking");
     Send(view, QEvent::MouseMove, 0.5, 0.5);
@@ -118,7 +114,7 @@ TEST_F(CrossHairTest, TheScreenKeepsNoRemains)
     Send(view, QEvent::MouseMove, 0.1, 0.9);
     ExpectScreenIsRight("tracking ended");
 
-    frame.GetAction("Zoom to Vertical Interval")->setChecked(true);
+    frame_->GetAction("Zoom to Vertical Interval")->setChecked(true);
     Send(view, QEvent::MouseButtonPress, 0.5, 0.2, Qt::LeftButton);
     MoveOverAllViews("selecting", Qt::LeftButton);
 }

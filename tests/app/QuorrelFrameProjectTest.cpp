@@ -174,27 +174,16 @@ TEST_F(QuorrelFrameProjectTest, KeysFindNoActionWhileAProjectIsSaved)
 
 TEST_F(QuorrelFrameProjectTest, TheChosenNameGetsItsSuffixAndReplacesNothingUnasked)
 {
-    auto const answer = [](QMessageBox::StandardButton button) {
-        return [button](QDialog* dialog) {
-            auto* box = qobject_cast<QMessageBox*>(dialog);
-            ASSERT_NE(box, nullptr);
-            box->button(button)->click();
-        };
-    };
-    struct
-    {
-        QString typed;
-        std::vector<DialogAnswer::Answer> answers;
-        QString saved; ///< empty: nothing is saved
-    } const cases[] = {
-        {"a.b", {}, "a.b.qz4"},
-        {"new.qz4", {}, "new.qz4"},
-        {"kept", {answer(QMessageBox::No)}, ""},
-        {"kept", {answer(QMessageBox::Yes)}, "kept.qz4"},
-        {".qz4", {}, ""},
-    };
     folder_.Write("kept.qz4", "kept");
-    for (auto const& [typed, answers, saved] : cases) {
+    // What is typed, the answers to what is asked, and what is saved, if anything.
+    for (auto const& [typed, answers, saved] :
+         std::vector<std::tuple<QString, std::vector<DialogAnswer::Answer>, QString>>{
+             {"a.b", {}, "a.b.qz4"},
+             {"new.qz4", {}, "new.qz4"},
+             {"kept", {DialogAnswer::Press(QMessageBox::No)}, ""},
+             {"kept", {DialogAnswer::Press(QMessageBox::Yes)}, "kept.qz4"},
+             {".qz4", {}, ""},
+         }) {
         frame_->OnNewProject();
         QSignalSpy const finished(frame_.get(), &QuorrelFrame::ProjectSaved_Signal);
         auto all = answers;
@@ -219,11 +208,7 @@ TEST_F(QuorrelFrameProjectTest, WhatCannotBeOpenedOrSavedIsToldAndLeavesANewProj
     frame_->AddNewSurvey("A");
     Save(good);
     auto const bytes = test_files::Read(good);
-    struct
-    {
-        QString path;
-        QString message;
-    } const cases[] = {
+    std::pair<QString, QString> const cases[] = {
         {folder_.Path("gone.qz4"), "File Not Found"},
         {folder_.Write("old.qz4", "FILEFORMAT_OF_LONG_AGO_"),
          "Exception cought while restoring %1: File format outdated"},

@@ -150,6 +150,7 @@ TEST_F(QuorrelFrameTest, MouseToolsExcludeEachOther)
     Import({folder_.Write("a.las", MakeLas())});
     auto const column = frame_->GetCurrentColumnWindow();
     Action("Zoom to Horizontal Interval [Z]")->trigger();
+    EXPECT_TRUE(column->GetParameters().GetHorizontalZoomChecked());
     Action("&Shift Pass [S]")->trigger();
     EXPECT_FALSE(Action("Zoom to Horizontal Interval [Z]")->isChecked());
     EXPECT_TRUE(Action("&Shift Pass [S]")->isChecked());

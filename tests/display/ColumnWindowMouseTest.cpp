@@ -92,14 +92,6 @@ TEST_F(ColumnWindowMouseTest, AVerticalSelectionBuildsAZoneInZoneMode)
     EXPECT_EQ(ends[2][0].value<Zone>(), Zone());
 }
 
-TEST_F(ColumnWindowMouseTest, HorizontalZoomIsKeptForTheViews)
-{
-    for (bool const on : {true, false}) {
-        column->ZoomHorizontalIntervalToggled(on);
-        EXPECT_EQ(column->GetParameters().GetHorizontalZoomChecked(), on);
-    }
-}
-
 TEST_F(ColumnWindowMouseTest, StretchAsksForItsAnchorInTheSettingsUnit)
 {
     BaseViewWidgetParameters const& parameters = column->GetParameters();

@@ -126,19 +126,14 @@ TEST(BaseDataChannel, SharesSamplesAndRefusesExpiredOnes)
 TEST(BaseDataChannel, DependsOnEveryPatternOfItsOwnFieldsAndWildcards)
 {
     auto const channel = MakeChannel({0}, {0}, "name", DataChannelIdentifier(2, "hash", 3));
-    struct Case
-    {
-        DataChannelIdentifier pattern;
-        bool matches;
-    };
-    Case const cases[] = {
-        {{2, "hash", 3}, true},  {{2, "hash", -1}, true}, {{2, "", -1}, true},       {{-1, "", -1}, true},
-        {{-1, "hash", 3}, true}, {{2, "", 3}, true},      {{3, "hash", 3}, false},   {{2, "other", 3}, false},
-        {{2, "hash", 0}, false}, {{3, "", -1}, false},    {{-1, "HASH", -1}, false},
-    };
-    for (Case const& item : cases) {
-        EXPECT_EQ(channel->IsDependentOn(item.pattern), item.matches)
-            << item.pattern.GetSurveyKey() << item.pattern.GetHash().toStdString() << item.pattern.GetIndex();
+    using Id = DataChannelIdentifier;
+    for (Id const& pattern : {Id(2, "hash", 3), Id(2, "hash", -1), Id(2, "", -1), Id(-1, "", -1),
+                              Id(-1, "hash", 3), Id(2, "", 3)}) {
+        EXPECT_TRUE(channel->IsDependentOn(pattern)) << pattern.GetSurveyKey() << ' ' << pattern.GetIndex();
+    }
+    for (Id const& pattern :
+         {Id(3, "hash", 3), Id(2, "other", 3), Id(2, "hash", 0), Id(3, "", -1), Id(-1, "HASH", -1)}) {
+        EXPECT_FALSE(channel->IsDependentOn(pattern)) << pattern.GetSurveyKey() << ' ' << pattern.GetIndex();
     }
     EXPECT_EQ(DataChannelIdentifier(LogPassIdentifier(2, "hash"), 3), channel->GetDataChannelIdentifier());
     EXPECT_EQ(DataChannelIdentifier().GetSurveyKey(), -1);

@@ -42,6 +42,7 @@ protected:
 TEST_F(DataContainerTest, CopiesAChannelIntoAnotherSurvey)
 {
     EXPECT_EQ(stored_, DataChannelIdentifier(0, Survey::DATA_STORAGE_NAME_IDENTIFIER, 0));
+    EXPECT_NE(container_.GetDataChannel(stored_)->GetSamples(), container_.GetDataChannel(gr_)->GetSamples());
     DataChannelIdentifier const copy =
         container_.CopyDataChannelToStorage(DataChannelIdentifier(pass_, 1), 1);
     EXPECT_EQ(copy, DataChannelIdentifier(1, Survey::DATA_STORAGE_NAME_IDENTIFIER, 0));
@@ -124,6 +125,7 @@ TEST_F(DataContainerTest, AnswersEmptyForASurveyThatIsNotThere)
 
     EXPECT_THROW((void)container_.GetDepthLogPass({0, "unknown"}), std::runtime_error);
     EXPECT_THROW((void)container_.GetDataChannel({0, "unknown", 0}), std::runtime_error);
+    EXPECT_THROW((void)container_.GetDataChannel({0, stored_.GetHash(), 1}), std::out_of_range);
 }
 
 TEST_F(DataContainerTest, DeletingALogEndsItsChannels)

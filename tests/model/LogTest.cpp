@@ -160,17 +160,12 @@ TEST(DepthLogPass, RestoresWithShiftBeforeStretch)
 {
     BASE_LOGPASS_STRUCT record;
     record.properties.identifier = IDENTIFIER;
-    record.properties.highlighted = true;
-    record.curve_info_header.push_back(HeaderRow("GR", "", "", ""));
-    record.file_path_and_name = "/data/a.las";
     std::vector<double> depths{100, 200};
     DepthLogPass const log_pass(record, {std::make_shared<Samples>(Samples{1, N})}, true, 5, 2, depths);
     EXPECT_EQ(log_pass.GetDepthInterval_metric(), Interval(205, 405));
     EXPECT_THAT(Values(*log_pass.GetDataChannel(0)),
                 ElementsAre(1, N)); // stored samples are taken as they are
     EXPECT_EQ(log_pass.GetDataChannel(0)->GetDataChannelIdentifier(), DataChannelIdentifier(IDENTIFIER, 0));
-    EXPECT_TRUE(log_pass.GetProperties().highlighted);
-    EXPECT_EQ(log_pass.GetFileName(), "a.las");
 }
 
 TEST(TimeLog, AsksForItsDepth)

@@ -10,29 +10,21 @@ using testing::FloatEq;
 
 TEST(StorageDataChannel, AveragesInPlaceOverACentredWindow)
 {
-    struct Case
-    {
-        float length;
-        Samples expected;
-    };
     Samples const samples{1, 2, 3, 4, 10, 20};
-    Case const cases[] = {
-        {3.9F, {1, 2, 3, 17.0F / 3, 34.0F / 3, 20}}, // windows of 3
-        {4.0F, {1, 2.5F, 4.75F, 9.25F, 10, 20}},     // windows of 4 reach two back and one forward
-        {6.0F, {1, 2, 40.0F / 6, 4, 10, 20}},
-        {1.0F, samples},
-        {0.9F, samples},
-        {0.0F, samples},
-        {-5.0F, samples},
-        {7.0F, samples},
-        {1e30F, samples},
-    };
-    for (Case const& item : cases) {
+    for (auto const& [length, expected] : std::vector<std::pair<float, Samples>>{
+             {3.9F, {1, 2, 3, 17.0F / 3, 34.0F / 3, 20}}, // windows of 3
+             {4.0F, {1, 2.5F, 4.75F, 9.25F, 10, 20}},     // windows of 4 reach two back and one forward
+             {6.0F, {1, 2, 40.0F / 6, 4, 10, 20}},
+             {1.0F, samples},
+             {0.9F, samples},
+             {0.0F, samples},
+             {-5.0F, samples},
+             {7.0F, samples},
+             {1e30F, samples},
+         }) {
         auto const channel = MakeChannel(Depths(100, 1, 6), samples);
-        channel->MovingAverage(item.length);
-        for (std::size_t i = 0; i < samples.size(); ++i) {
-            EXPECT_FLOAT_EQ(channel->at(i), item.expected[i]) << "length " << item.length << ", sample " << i;
-        }
+        channel->MovingAverage(length);
+        EXPECT_THAT(Values(*channel), testing::Pointwise(FloatEq(), expected)) << length;
     }
     EXPECT_THROW(MakeChannel({100}, {1})->MovingAverage(3), std::invalid_argument);
 }

@@ -79,24 +79,3 @@ TEST(DataStorageMap, KeysAndNamesOfStoredChannels)
     EXPECT_EQ(storage.MoveStorageDataChannelToStorage(nullptr, 5), -1);
     EXPECT_EQ(storage.size(), 4U);
 }
-
-TEST(Survey, TellsStorageFromLogs)
-{
-    Survey survey(6, "Survey");
-    LASFile file = MakeDepthFile({10, 11}, {{"GR", {1, 2}}});
-    auto const identifier = survey.AddLogPass(file, "/a.las");
-    ASSERT_TRUE(identifier.has_value());
-    EXPECT_EQ(identifier->survey_key, 6);
-    auto const source = survey.GetDepthDataChannel(identifier->hash, 0);
-    EXPECT_EQ(survey.CopyDataChannelToStorage(source, 0), 0);
-
-    auto const copy = survey.GetDepthDataChannel(Survey::DATA_STORAGE_NAME_IDENTIFIER, 0);
-    EXPECT_EQ(copy->GetName(), "S6_L0_GR");
-    EXPECT_NE(copy->GetSamples(), source->GetSamples());
-    EXPECT_EQ(survey.GetDataChannel(Survey::DATA_STORAGE_NAME_IDENTIFIER, 0), copy);
-    EXPECT_EQ(survey.GetDataChannel(identifier->hash, 0)->GetName(), "GR");
-    EXPECT_THROW((void)survey.GetDataChannel(Survey::DATA_STORAGE_NAME_IDENTIFIER, 1), std::out_of_range);
-    EXPECT_THROW((void)survey.GetDataChannel("unknown", 0), std::runtime_error);
-    EXPECT_EQ(survey.CopyDataChannelToStorage(std::weak_ptr<BaseDepthDataChannel const>(), 0), -1);
-    EXPECT_THAT(survey.GetStorageKeys(), ElementsAre(0));
-}

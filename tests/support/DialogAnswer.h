@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
@@ -29,6 +30,15 @@ public:
     [[nodiscard]] static Answer Accept()
     {
         return [](QDialog* dialog) { dialog->accept(); };
+    }
+    /// Presses this button of a message box.
+    [[nodiscard]] static Answer Press(QMessageBox::StandardButton button)
+    {
+        return [button](QDialog* dialog) {
+            auto* const box = qobject_cast<QMessageBox*>(dialog);
+            ASSERT_NE(box, nullptr);
+            box->button(button)->click();
+        };
     }
 
 private:

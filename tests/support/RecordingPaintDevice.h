@@ -3,13 +3,13 @@
 
 #pragma once
 
+#include <QImage>
 #include <QLineF>
-#include <QPaintDevice>
 #include <QPaintEngine>
 
 /// A surface that keeps what is drawn on it instead of painting: lines and texts, in device coordinates.
 /// Texts can thus be checked without a font's pixels.
-class RecordingPaintDevice : public QPaintDevice
+class RecordingPaintDevice : public QImage
 {
 public:
     struct Text
@@ -18,15 +18,12 @@ public:
         QPointF position; ///< left end of the base line
     };
 
-    RecordingPaintDevice(int width, int height) : width_(width), height_(height) {}
+    RecordingPaintDevice(int width, int height) : QImage(width, height, Format_RGB32) {}
 
     [[nodiscard]] std::vector<QLineF> const& GetLines() const { return engine_.lines; }
     [[nodiscard]] std::vector<Text> const& GetTexts() const { return engine_.texts; }
 
     [[nodiscard]] QPaintEngine* paintEngine() const override { return &engine_; }
-
-protected:
-    [[nodiscard]] int metric(PaintDeviceMetric metric) const override;
 
 private:
     class Engine : public QPaintEngine
@@ -53,7 +50,5 @@ private:
         std::vector<Text> texts;
     };
 
-    int width_;
-    int height_;
     mutable Engine engine_;
 };

@@ -109,12 +109,7 @@ TEST_F(WellSketchRendererTest, HangersAndShoes)
 TEST_F(WellSketchRendererTest, ComponentsHaveTheirAreas)
 {
     using enum WellComponentType;
-    struct
-    {
-        std::vector<Type> types;
-        double top;
-        std::vector<QRect> areas;
-    } const cases[] = {
+    std::tuple<std::vector<Type>, double, std::vector<QRect>> const cases[] = {
         // In the upper tubing joint: bore of 30 px from 115 on, outside diameter 40 from 110 on.
         {{Plug, Fish, Restriction, SafetyValve, Nipple, Straddle}, 200, {{115, 200, 30, 20}}},
         {{Cut}, 200, {{110, 200, 40, 20}}},

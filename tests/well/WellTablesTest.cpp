@@ -10,7 +10,6 @@
 #include "well/WellComponentTable.h"
 #include "well/ZoneTable.h"
 
-#include <QAbstractButton>
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QTest>
@@ -227,8 +226,7 @@ TEST(WellTablePaste, AMarkerWithoutDepthIsAskedFor)
               QStringList(9, error("x")) << error("x\n(and 2 more lines)"), good}}) {
         std::vector<DialogAnswer::Answer> answers;
         for (auto const button : buttons) {
-            answers.push_back(
-                [button](QDialog* dialog) { qobject_cast<QMessageBox*>(dialog)->button(button)->click(); });
+            answers.push_back(DialogAnswer::Press(button));
         }
         DialogAnswer const dialogs(answers);
         DepthMarkerTable table;

@@ -20,14 +20,11 @@ QImage Painted(Zone const& zone, int y, int height)
 TEST(Zone, PaintsInsideTheWindow)
 {
     Zone const zone({0, 1}, "", QColor(200, 10, 30));
-    struct
-    {
-        int y, height, first, last;
-    } const cases[] = {{20, 30, 20, 49},
-                       {-50, 60, 0, 9},
-                       {90, 5000, 90, 99},
-                       {40, 0, 40, 40},
-                       {-2'000'000'000, 2'147'483'647, 0, 99}};
+    int const cases[][4] = {{20, 30, 20, 49},
+                            {-50, 60, 0, 9},
+                            {90, 5000, 90, 99},
+                            {40, 0, 40, 40},
+                            {-2'000'000'000, 2'147'483'647, 0, 99}};
     for (auto const& [y, height, first, last] : cases) {
         QImage const image = Painted(zone, y, height);
         int const pixels = 20 * (last - first + 1);

@@ -41,17 +41,15 @@ TEST(Interval, IsInside)
 
 TEST(Interval, ForcesEachEndInsideOnItsOwn)
 {
-    struct Case
-    {
-        Interval start, other, expected;
-    };
-    for (Case const& c : {Case{{1, 2}, {5, 6}, {5, 6}}, // wholly below
-                          Case{{7, 8}, {5, 6}, {5, 6}}, // wholly above
-                          Case{{1, 5.5}, {5, 6}, {5, 5.5}}, Case{{5.5, 9}, {5, 6}, {5.5, 6}},
-                          Case{{5.2, 5.4}, {5, 6}, {5.2, 5.4}}, Case{{0, 9}, {5, 6}, {5, 6}}}) {
-        Interval interval = c.start;
-        interval.ForceInside(c.other);
-        ExpectInterval(interval, c.expected.lower, c.expected.upper);
+    Interval const other(5, 6);
+    // Wholly below, wholly above, one end inside, both inside, both outside.
+    for (auto const& [start, expected] :
+         {std::pair(Interval(1, 2), other), std::pair(Interval(7, 8), other),
+          std::pair(Interval(1, 5.5), Interval(5, 5.5)), std::pair(Interval(5.5, 9), Interval(5.5, 6)),
+          std::pair(Interval(5.2, 5.4), Interval(5.2, 5.4)), std::pair(Interval(0, 9), other)}) {
+        Interval interval = start;
+        interval.ForceInside(other);
+        EXPECT_EQ(interval, expected);
     }
 }
 

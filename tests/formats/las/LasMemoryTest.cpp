@@ -6,7 +6,6 @@
 #include "support/TestFiles.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 namespace {
 #if defined(__SANITIZE_ADDRESS__) || !defined(__linux__)
@@ -89,54 +88,45 @@ TEST(LasMemory, NoFileTakesMoreThanFourTimesItsSize)
     if (!CAN_MEASURE) {
         GTEST_SKIP() << "the sanitizer's memory hides ours";
     }
-    struct Case
-    {
-        char const* name;
-        std::string head;
-        std::string body;
-        std::int64_t size;
-        char const* outcome;
-    };
     std::int64_t const large = 100'000'000;
     std::int64_t const medium = 20'000'000;
     std::string const one_channel =
         "~V\nVERS. 2.0 :\n~W\nSTRT.M 0 :\nSTOP.M 9 :\nSTEP.M 0 :\n~C\nDEPT.M :\nA. :\n~A\n";
     std::string const no_channel =
         "~V\nVERS. 2.0 :\n~W\nSTRT.M 0 :\nSTOP.M 9 :\nSTEP.M 0 :\n~C\nDEPT.M :\n~A\n";
-    Case const cases[] = {
-        {"no line feed", "", "x", large, "Undefined Mnem: VERS"},
-        {"one section line", "~V", "x", medium, "Undefined Mnem: VERS"},
-        {"one header line", "~V\nVERS. 2.0 :\n~W\n", "x", medium, "A line of the file's header is "},
-        {"one header line of 3.0", "~V\nVERS. 3.0 :\n~W\n", "a.b c:d", medium,
-         "A line of the file's header is "},
-        {"one word", one_channel, "x", medium, " Invalid value"},
-        {"one number", one_channel, "7", medium, "Reached end of LAS file in the middle"},
-        {"one line of numbers", one_channel, "1 2 ", medium, ""},
-        {"one comment", one_channel + "#", "x", medium, "0 rows"},
-        {"one blank", one_channel, " ", medium, "0 rows"},
-        {"commas", one_channel, ",", medium, "Reached end of LAS file before"},
-        {"dashes", one_channel, "-", medium, "The data section of the file holds more values"},
-        {"index only", no_channel, "1\n", medium, ""},
-        {"short header lines", "~V\nVERS. 2.0 :\n~W\n", "a\n", medium,
-         "The header sections of the file are too long"},
-        {"data as header", "~V\nVERS. 2.0 :\n~A\n", "1.0 2.0 3.0 4.0\n", medium,
-         "The header sections of the file are too long"},
-        {"one row of 3.0",
-         las_test::FileV3("0", "9", "0", "~Log_Definition\nD.M :\nA. :\n~Log_Data | Log_Definition\n"),
-         "1 2 ", medium, "1 rows"},
-        {"rows of 3.0",
-         las_test::FileV3("0", "9", "0", "~Log_Definition\nD.M :\nA. :\n~Log_Data | Log_Definition\n"),
-         "1.5 2.5\n", medium, ""},
-        {"binary", "~V\nVERS. 2.0 :\n~W\n", std::string("\x01\x00\xFF~\n.:", 7), medium, ""},
-    };
     test_files::Folder const folder;
-    for (Case const& test : cases) {
-        QString const path = WriteRepeated(folder, test.head, test.body, test.size);
-        Measurement const result = Measure(path);
-        double const size = static_cast<double>(QFileInfo(path).size()) / 1e6;
-        std::printf("%-24s %6.1f MB for %6.1f MB: %.60s\n", test.name, result.megabytes, size,
+    for (auto const& [name, head, body, size, outcome] :
+         std::vector<std::tuple<char const*, std::string, std::string, std::int64_t, char const*>>{
+             {"no line feed", "", "x", large, "Undefined Mnem: VERS"},
+             {"one section line", "~V", "x", medium, "Undefined Mnem: VERS"},
+             {"one header line", "~V\nVERS. 2.0 :\n~W\n", "x", medium, "A line of the file's header is "},
+             {"one header line of 3.0", "~V\nVERS. 3.0 :\n~W\n", "a.b c:d", medium,
+              "A line of the file's header is "},
+             {"one word", one_channel, "x", medium, " Invalid value"},
+             {"one number", one_channel, "7", medium, "Reached end of LAS file in the middle"},
+             {"one line of numbers", one_channel, "1 2 ", medium, ""},
+             {"one comment", one_channel + "#", "x", medium, "0 rows"},
+             {"one blank", one_channel, " ", medium, "0 rows"},
+             {"commas", one_channel, ",", medium, "Reached end of LAS file before"},
+             {"dashes", one_channel, "-", medium, "The data section of the file holds more values"},
+             {"index only", no_channel, "1\n", medium, ""},
+             {"short header lines", "~V\nVERS. 2.0 :\n~W\n", "a\n", medium,
+              "The header sections of the file are too long"},
+             {"data as header", "~V\nVERS. 2.0 :\n~A\n", "1.0 2.0 3.0 4.0\n", medium,
+              "The header sections of the file are too long"},
+             {"one row of 3.0",
+              las_test::FileV3("0", "9", "0", "~Log_Definition\nD.M :\nA. :\n~Log_Data | Log_Definition\n"),
+              "1 2 ", medium, "1 rows"},
+             {"rows of 3.0",
+              las_test::FileV3("0", "9", "0", "~Log_Definition\nD.M :\nA. :\n~Log_Data | Log_Definition\n"),
+              "1.5 2.5\n", medium, ""},
+             {"binary", "~V\nVERS. 2.0 :\n~W\n", std::string("\x01\x00\xFF~\n.:", 7), medium, ""},
+         }) {
+        Measurement const result = Measure(WriteRepeated(folder, head, body, size));
+        double const megabytes = static_cast<double>(size) / 1e6;
+        std::printf("%-24s %6.1f MB for %6.1f MB: %.60s\n", name, result.megabytes, megabytes,
                     result.outcome.c_str());
-        EXPECT_LT(result.megabytes, 4.0 * size + 64.0) << test.name;
-        EXPECT_TRUE(result.outcome.starts_with(test.outcome)) << test.name << ": " << result.outcome;
+        EXPECT_LT(result.megabytes, 4.0 * megabytes + 64.0) << name;
+        EXPECT_TRUE(result.outcome.starts_with(outcome)) << name << ": " << result.outcome;
     }
 }

@@ -7,13 +7,7 @@
 #include <array>
 
 namespace {
-struct Case
-{
-    char const* line;
-    /// Mnemonic, unit, value, description, format, associations.
-    std::array<char const*, 6> parts;
-};
-
+/// Mnemonic, unit, value, description, format, associations.
 std::array<QString, 6> Parts(ParameterDataLine const& line)
 {
     return {line.GetMnem(),        line.GetUnit(),   line.GetValue(),
@@ -23,37 +17,34 @@ std::array<QString, 6> Parts(ParameterDataLine const& line)
 
 TEST(ParameterDataLine, CutsALineIntoItsSixParts)
 {
-    Case const cases[] = {
-        {"STRT .M 1670.0 : First Index {F}", {"STRT", "M", "1670.0", "First Index", "F", ""}},
-        {"LAT .DEG  34.56 : Latitude  {DEG} | RUN[1]", {"LAT", "DEG", "34.56", "Latitude", "DEG", "RUN[1]"}},
-        {"COMP . ANY OIL CO. : Company", {"COMP", "", "ANY OIL CO.", "Company", "", ""}},
-        {"MATR . SAND : Neutron Matrix | NMAT_Depth[1]",
-         {"MATR", "", "SAND", "Neutron Matrix", "", "NMAT_Depth[1]"}},
-        {"NMR[1] .ms 123 : Echo Array {A:0 }", {"NMR[1]", "ms", "123", "Echo Array", "A:0", ""}},
-        // The value ends at the first colon, and the description begins there.
-        {"TIME. 12:30 : Logged {HH:MM} | A | B", {"TIME", "", "12", "30 : Logged", "HH:MM", "A | B"}},
-        // Without a blank behind the unit, the value is the line up to the colon.
-        {"STRT.M:text", {"STRT", "M:text", "STRT.M", "text", "", ""}},
-        {"EREF.M\t98.2\t: Elevation", {"EREF", "M", "98.2", "Elevation", "", ""}},
-        // Without a dot there is no mnemonic.
-        {"NODOT 5 : desc", {"", "NODOT", "5", "desc", "", ""}},
-        {"NULL. -999.25", {"NULL", "", "-999.25", "", "", ""}},
-        // Of several bars the last one counts unless a format comes first.
-        {"X.M 1 : a | b | c", {"X", "M", "1", "a | b", "", "c"}},
-        {"X.M 1 : a | b {F}", {"X", "M", "1", "a | b", "F", ""}},
-        {"X.M 1 : open {F", {"X", "M", "1", "open", "F", ""}},
-        {"X.M 1 : open {F | y", {"X", "M", "1", "open {F", "", "y"}},
-        // Braces in front of the colon belong to the value.
-        {"X.M {1|2} : z", {"X", "M", "{1|2}", "z", "", ""}},
-        {"desc : no dot. {F} | a", {"desc : no dot", "", "", "no dot.", "F", "a"}},
-        {".", {"", "", ".", "", "", ""}},
-        {"", {"", "", "", "", "", ""}},
-    };
-    for (Case const& test : cases) {
-        std::array<QString, 6> const parts = Parts(ParameterDataLine(std::string(test.line)));
-        for (std::size_t part = 0; part < parts.size(); ++part) {
-            EXPECT_EQ(parts[part].toStdString(), test.parts[part]) << test.line << ", part " << part;
-        }
+    for (auto const& [line, parts] : std::vector<std::pair<char const*, std::array<QString, 6>>>{
+             {"STRT .M 1670.0 : First Index {F}", {"STRT", "M", "1670.0", "First Index", "F", ""}},
+             {"LAT .DEG  34.56 : Latitude  {DEG} | RUN[1]",
+              {"LAT", "DEG", "34.56", "Latitude", "DEG", "RUN[1]"}},
+             {"COMP . ANY OIL CO. : Company", {"COMP", "", "ANY OIL CO.", "Company", "", ""}},
+             {"MATR . SAND : Neutron Matrix | NMAT_Depth[1]",
+              {"MATR", "", "SAND", "Neutron Matrix", "", "NMAT_Depth[1]"}},
+             {"NMR[1] .ms 123 : Echo Array {A:0 }", {"NMR[1]", "ms", "123", "Echo Array", "A:0", ""}},
+             // The value ends at the first colon, and the description begins there.
+             {"TIME. 12:30 : Logged {HH:MM} | A | B", {"TIME", "", "12", "30 : Logged", "HH:MM", "A | B"}},
+             // Without a blank behind the unit, the value is the line up to the colon.
+             {"STRT.M:text", {"STRT", "M:text", "STRT.M", "text", "", ""}},
+             {"EREF.M\t98.2\t: Elevation", {"EREF", "M", "98.2", "Elevation", "", ""}},
+             // Without a dot there is no mnemonic.
+             {"NODOT 5 : desc", {"", "NODOT", "5", "desc", "", ""}},
+             {"NULL. -999.25", {"NULL", "", "-999.25", "", "", ""}},
+             // Of several bars the last one counts unless a format comes first.
+             {"X.M 1 : a | b | c", {"X", "M", "1", "a | b", "", "c"}},
+             {"X.M 1 : a | b {F}", {"X", "M", "1", "a | b", "F", ""}},
+             {"X.M 1 : open {F", {"X", "M", "1", "open", "F", ""}},
+             {"X.M 1 : open {F | y", {"X", "M", "1", "open {F", "", "y"}},
+             // Braces in front of the colon belong to the value.
+             {"X.M {1|2} : z", {"X", "M", "{1|2}", "z", "", ""}},
+             {"desc : no dot. {F} | a", {"desc : no dot", "", "", "no dot.", "F", "a"}},
+             {".", {"", "", ".", "", "", ""}},
+             {"", {"", "", "", "", "", ""}},
+         }) {
+        EXPECT_EQ(Parts(ParameterDataLine(std::string(line))), parts) << line;
     }
     EXPECT_EQ(ParameterDataLine(std::string("TEMP.\xB0"
                                             "C 5 : x"))

@@ -29,8 +29,11 @@ Table Read(QByteArray const& content, std::size_t first_line, std::string const&
 
 TEST(TextFile, CutsAtEverySeparatorAndTrims)
 {
-    TextFile const file("", 1, ",");
+    TextFile file("/nonexistent/file.txt", 1, ",");
     EXPECT_FALSE(file.Is_Open());
+    file.ParseData();
+    EXPECT_TRUE(file.GetData().empty());
+    EXPECT_FALSE(file.IsPrematureEnd());
     EXPECT_EQ(file.ParseTextLine("1, 2 ,\t3\r"), (std::vector<std::string>{"1", "2", "3"}));
     EXPECT_EQ(file.ParseTextLine(",,"), (std::vector<std::string>{"", "", ""}));
     EXPECT_EQ(file.ParseTextLine(""), (std::vector<std::string>{""}));
@@ -62,13 +65,4 @@ TEST(TextFile, AnotherTokenCountEndsTheReadAndALongRestIsTold)
     EXPECT_TRUE(long_rest.is_premature);
     EXPECT_EQ(long_rest.notice,
               "Survey Import: Premature end of import. Confirm that all data has been imported");
-}
-
-TEST(TextFile, AMissingFileIsAnEmptyTable)
-{
-    TextFile file("/nonexistent/file.txt", 1, ",");
-    EXPECT_FALSE(file.Is_Open());
-    file.ParseData();
-    EXPECT_TRUE(file.GetData().empty());
-    EXPECT_FALSE(file.IsPrematureEnd());
 }

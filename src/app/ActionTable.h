@@ -4,13 +4,15 @@
 #pragma once
 
 #include <QKeySequence>
+#include <QList>
 
 #include <span>
 
 struct FrameState;
 
 /// Every action of the main frame.
-enum class ActionId {
+enum class ActionId
+{
     ConvertDlis,
     DlisBrowser,
     NewSurvey,
@@ -63,35 +65,55 @@ enum class ActionId {
     ScreensManager,
 };
 
-enum class MenuId { File, Edit, View, Help };
+enum class MenuId
+{
+    File,
+    Edit,
+    View,
+    Help
+};
 
-enum class ToolBarId { None, File, Zoom, Screens, Settings, Well, Survey, Passes, Caliper, Interpretation };
+enum class ToolBarId
+{
+    None,
+    File,
+    Zoom,
+    Screens,
+    Settings,
+    Well,
+    Survey,
+    Passes,
+    Caliper,
+    Interpretation
+};
 
 /// When an action can be used.
-enum class Availability {
+enum class Availability
+{
     Always,
-    Survey,             ///< a survey is shown
-    Pass,               ///< the shown survey has a log pass
-    PreviousPass,       ///< ... and the selected pass is not the first
-    NextPass,           ///< ... and it is not the last
+    Survey,       ///< a survey is shown
+    Pass,         ///< the shown survey has a log pass
+    PreviousPass, ///< ... and the selected pass is not the first
+    NextPass,     ///< ... and it is not the last
     UndoAvailable,
     RedoAvailable,
     InterpretationZones, ///< the shown survey has interpretation zones
-    CaliperView,        ///< the shown column has a caliper view
-    NotYet,             ///< announced in its menu, but the program cannot do it yet
+    CaliperView,         ///< the shown column has a caliper view
+    NotYet,              ///< announced in its menu, but the program cannot do it yet
 };
 
-struct ActionDefinition {
+struct ActionDefinition
+{
     ActionId id;
     char const* text;
-    char const* icon;       ///< file under ":/Icons/", without folder of the colour scheme
-    QKeySequence key;
+    char const* icon;         ///< file under ":/Icons/", without folder of the colour scheme
+    QList<QKeySequence> keys; ///< the first is shown; a standard key has all those of the platform
     bool checkable;
     char const* status_tip; ///< empty for none
     MenuId menu;
     ToolBarId tool_bar;
     Availability availability;
-    bool separator_before;  ///< in its menu
+    bool separator_before; ///< in its menu
 };
 
 /// The one table from which the actions, menus and tool bars are made, in menu and tool bar order.

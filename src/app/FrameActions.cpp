@@ -32,7 +32,7 @@ FrameActions::FrameActions(QObject* parent) : QObject(parent)
 {
     for (auto const& definition : ActionTable()) {
         auto* action = new QAction(tr(definition.text), parent);
-        action->setShortcut(definition.key);
+        action->setShortcuts(definition.keys);
         action->setCheckable(definition.checkable);
         auto const plain_text = tr(definition.text).remove('&');
         if (*definition.status_tip != '\0') { // others would only hide the depth read-out

@@ -3,8 +3,10 @@
 
 #pragma once
 
-/// What the main frame's actions depend on, as a plain record, so that "which action is on when" is a function of it.
-struct FrameState {
+/// What the main frame's actions depend on, as a plain record, so that "which action is on when" is a
+/// function of it.
+struct FrameState
+{
     bool has_survey = false;
     bool has_pass = false;
     bool is_first_pass = false;

@@ -93,8 +93,8 @@ TEST(ActionTableTest, TextsAndKeysAreUniqueAndWhatIsMissingStandsDisabled)
     QStringList not_yet;
     for (auto const& definition : ActionTable()) {
         EXPECT_TRUE(texts.insert(definition.text).second) << definition.text;
-        if (!definition.key.isEmpty()) {
-            EXPECT_TRUE(keys.insert(definition.key.toString()).second) << definition.text;
+        for (auto const& key : definition.keys) {
+            EXPECT_TRUE(keys.insert(key.toString()).second) << definition.text;
         }
         if (definition.availability == Availability::NotYet) {
             not_yet << definition.text;
@@ -102,7 +102,7 @@ TEST(ActionTableTest, TextsAndKeysAreUniqueAndWhatIsMissingStandsDisabled)
     }
     EXPECT_EQ(texts.size(), 50U);
     EXPECT_THAT(not_yet, testing::UnorderedElementsAreArray(NOT_YET));
-    for (auto const* key : {"Z", "S", "M", "C", "T", "I", "Ctrl+S"}) {
+    for (auto const* key : {"Z", "S", "M", "C", "T", "I", "Ctrl+S", "Ctrl+Z", "Ctrl+Shift+Z"}) {
         EXPECT_EQ(keys.count(key), 1U) << key;
     }
 }

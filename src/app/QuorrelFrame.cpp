@@ -16,6 +16,7 @@
 #include "app/kit/SettingsSingleton.h"
 #include "display/ColumnWindow.h"
 #include "display/DisplayedIntervalDialog.h"
+#include "display/ScrollAreaWrapper.h"
 #include "display/TimeCurveOverlay.h"
 #include "display/XYChart.h"
 #include "model/LogDepthQuestion.h"
@@ -416,7 +417,9 @@ void QuorrelFrame::OnStretchToggled(bool checked)
 void QuorrelFrame::OnTrackingMode(bool checked)
 {
     Quorrel::TRACKING_MODE = checked;
-    RedrawCurrentColumnWindow();
+    if (current_column_window_) { // the tracker lies on top of what is rendered already
+        current_column_window_->GetScrollAreaWrapper()->UpdateViewport();
+    }
 }
 
 void QuorrelFrame::OnMfcMode(bool checked)

@@ -110,9 +110,13 @@ TEST_F(CrossHairTest, TheScreenKeepsNoRemains)
     tracking->setChecked(true);
     MoveOverAllViews("tracking");
     Send(view, QEvent::MouseMove, 0.5, 0.5);
-    tracking->setChecked(false);
-    Send(view, QEvent::MouseMove, 0.1, 0.9);
-    ExpectScreenIsRight("tracking ended");
+    int const renders = view->GetRenderCount();
+    for (bool const on : {false, true, false}) {
+        tracking->setChecked(on);
+        Settle();
+        ExpectScreenIsRight("tracking switched");
+    }
+    EXPECT_EQ(view->GetRenderCount(), renders);
 
     frame_->GetAction("Zoom to Vertical Interval")->setChecked(true);
     Send(view, QEvent::MouseButtonPress, 0.5, 0.2, Qt::LeftButton);

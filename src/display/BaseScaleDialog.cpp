@@ -3,6 +3,7 @@
 
 #include "display/BaseScaleDialog.h"
 
+#include "app/kit/Quorrel.h"
 #include "display/ChannelsScaleWidget.h"
 #include "display/ScaleEditTarget.h"
 
@@ -29,6 +30,7 @@ BaseScaleDialog::BaseScaleDialog(QWidget* parent, ScaleEditTarget* target)
     connect(buttons_->button(QDialogButtonBox::Apply), &QPushButton::clicked, this,
             &BaseScaleDialog::OnApply);
     connect(widget_, &ChannelsScaleWidget::InputChange, this, &BaseScaleDialog::OnInputChanged);
+    Quorrel::SetWindowSize(this, 0.25F, 0.3F);
 }
 
 void BaseScaleDialog::OnApply()

@@ -70,6 +70,7 @@ DisplayedIntervalDialog::DisplayedIntervalDialog(bool override_interval, Interva
     connect(override_, &QCheckBox::stateChanged, this, &DisplayedIntervalDialog::OnCheckBoxChanged);
     override_->setChecked(override_interval);
     OnCheckBoxChanged(override_->checkState());
+    Quorrel::SetWindowSize(this, 0.2F, 0.2F);
 }
 
 void DisplayedIntervalDialog::OnCheckBoxChanged(int state)

@@ -3,12 +3,16 @@
 
 #include "well/JsonImporterDialog.h"
 
+#include "app/kit/Quorrel.h"
+
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 JsonImporterDialog::JsonImporterDialog(QWidget* parent, bool hasInclination, bool hasPerforations,
                                        bool hasStrings, bool hasComponents)
@@ -51,6 +55,7 @@ JsonImporterDialog::JsonImporterDialog(QWidget* parent, bool hasInclination, boo
     layout->addWidget(mode);
     layout->addWidget(buttons);
     setMinimumWidth(320);
+    Quorrel::SetWindowSize(this, 0.2F, 0.3F);
 }
 
 bool JsonImporterDialog::InclinationChecked() const
@@ -82,4 +87,6 @@ void JsonImporterDialog::SetNote(QString const& text)
 {
     note_->setText(text);
     note_->setVisible(!text.isEmpty());
+    // The note may take many lines.
+    resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));
 }

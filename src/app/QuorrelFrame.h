@@ -58,6 +58,8 @@ public:
     void DeleteLogPass(LogPassIdentifier const& identifier);
     void DeleteStorageDataChannel(DataChannelIdentifier const& identifier);
     void RenameSurvey(KeyType key, QString const& name);
+    /// Returns the name given, made unique; empty for an unknown survey or view.
+    QString RenameUserDataView(KeyType key, QString const& view, QString const& name);
 
     /// After a change of the well's data: the tracks that show them are made anew in every column.
     void RedrawAllColumnWindows();

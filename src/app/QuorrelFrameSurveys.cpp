@@ -140,6 +140,16 @@ void QuorrelFrame::RenameSurvey(KeyType key, QString const& name)
     survey_combo_box_->RenameSurvey(key, ProjectAccess::RenameSurvey(key, name));
 }
 
+QString QuorrelFrame::RenameUserDataView(KeyType key, QString const& view, QString const& name)
+{
+    auto const column = GetColumnWindow(key);
+    if (!column || !column->FindUserDataView(view)) {
+        return {};
+    }
+    static_cast<void>(GetDataContainerWrapper().GetWriteAccess(false)); // views are stored with the project
+    return column->RenameUserDataView(view, name);
+}
+
 void QuorrelFrame::OnEditSurveyText()
 {
     auto const key = GetCurrentSurveyKey();

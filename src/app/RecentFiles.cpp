@@ -16,11 +16,17 @@ void RecentFiles::CreateRecentFileActionList(QObject* owner)
     for (QAction*& action : actions_) {
         action = new QAction(owner);
         action->setVisible(false);
-        connect(action, &QAction::triggered, this,
-                [this, action] { emit LoadRecent_Signal(action->data().toString()); });
+        connect(action, &QAction::triggered, this, &RecentFiles::OnLoadRecent);
     }
     CullFileList();
     UpdateRecentFileActionList();
+}
+
+void RecentFiles::OnLoadRecent()
+{
+    if (auto const* action = qobject_cast<QAction*>(sender())) {
+        emit LoadRecent_Signal(action->data().toString());
+    }
 }
 
 void RecentFiles::AddActionsToMenu(QMenu* menu) const

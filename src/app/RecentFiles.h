@@ -29,6 +29,10 @@ public:
     void CullFileList();
     void UpdateRecentFileActionList();
 
+public slots:
+    /// For the actions: tells which of them was triggered.
+    void OnLoadRecent();
+
 signals:
     /// The user chose this file.
     void LoadRecent_Signal(QString const& path);

@@ -360,7 +360,12 @@ TEST_F(QuorrelFrameProjectTest, ScreensAreKeptForEachSurvey)
     Column().UpdateVisibleViewWidgets({"GR", "Depth"});
     manage([&](QDialog* dialog) { save(dialog, "B"); });
     EXPECT_EQ(Title(), "[s.qz4]*") << "screens belong to the project";
-    Column().CreateDataView_Public("Mine", false);
+    Column().CreateDataView_Public("New", false);
+    QSignalSpy const written(&frame_->GetDataContainerWrapper(),
+                             &DataContainerWrapper::DataContainerWriteAccessRequested_Signal);
+    EXPECT_EQ(frame_->RenameUserDataView(key, "New", "GR"), "GR_#1");
+    EXPECT_EQ(frame_->RenameUserDataView(key, "GR_#1", "Mine"), "Mine");
+    EXPECT_EQ(written.count(), 2);
     Column().UpdateVisibleViewWidgets({"Depth", "Mine", "Zones"});
     manage([&](QDialog* dialog) {
         save(dialog, "A");

@@ -4,6 +4,7 @@
 #include "app/ActionTable.h"
 
 #include "app/FrameState.h"
+#include "support/Texts.h"
 
 namespace {
 QStringList EnabledTexts(FrameState const& state)
@@ -22,12 +23,6 @@ void ExpectEnabled(FrameState const& state, QStringList texts, char const* when)
 {
     texts.sort();
     EXPECT_EQ(EnabledTexts(state), texts) << when;
-}
-
-/// Texts that stand between bars.
-QStringList List(char const* texts)
-{
-    return QString(texts).split('|');
 }
 
 QStringList const ALWAYS =

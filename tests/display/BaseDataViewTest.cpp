@@ -13,8 +13,6 @@
 namespace {
 using namespace view_bench;
 
-constexpr double NOT_A_NUMBER = std::numeric_limits<double>::quiet_NaN();
-
 /// A user pair 200 x 101 pixels wide, one row per metre, whose header picks the selected curve.
 class DataViewTest : public ::testing::Test
 {
@@ -79,8 +77,8 @@ TEST(DefaultHorizontalScale, RoundsOneDecadeBelowTheExtent)
     }
     // Always of a finite length.
     for (Interval const& values :
-         {Interval(), Interval(NOT_A_NUMBER, NOT_A_NUMBER), Interval(0, NOT_A_NUMBER), Interval(1e30, 1e30),
-          Interval(-1e38, 1e38), Interval(0, 1e-300), Interval(5, 5 + 1e-15), Interval(-1e300, 1e300)}) {
+         {Interval(), Interval(NAN, NAN), Interval(0, NAN), Interval(1e30, 1e30), Interval(-1e38, 1e38),
+          Interval(0, 1e-300), Interval(5, 5 + 1e-15), Interval(-1e300, 1e300)}) {
         double const length = BaseDataView::CalculateDefaultHorizontalScale(values).Delta();
         EXPECT_TRUE(std::isfinite(length) && length > 0) << values.lower << " to " << values.upper;
     }
@@ -263,7 +261,7 @@ TEST_F(DataViewTest, GridHasMajorAndMinorDepthsAndFifths)
     }
     for (auto const& [start, step] :
          {std::pair(1000.0, 0.0), std::pair(1000.0, -5.0), std::pair(1000.0, 1e-9),
-          std::pair(NOT_A_NUMBER, 10.0), std::pair(-1e300, 1.0)}) {
+          std::pair<double, double>(NAN, 10), std::pair(-1e300, 1.0)}) {
         EXPECT_EQ(pixels::Count(grid(start, step), Qt::white), 200 * 101) << start << " by " << step;
     }
 }

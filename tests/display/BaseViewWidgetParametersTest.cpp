@@ -29,9 +29,8 @@ private:
 
 TEST_F(BaseViewWidgetParametersTest, AViewInsideANewTotalStaysAndAnyOtherBecomesTheTotal)
 {
-    double const infinity = std::numeric_limits<double>::infinity();
     for (Interval const& view : {Interval(1200, 1300), Interval(900, 1300), Interval(1200, 2001),
-                                 Interval(10, 20), Interval(), Interval(infinity, infinity)}) {
+                                 Interval(10, 20), Interval(), Interval(INFINITY, INFINITY)}) {
         BaseViewWidgetParameters parameters;
         parameters.SetViewDepthMetric(view);
         parameters.SetTotalDisplayedDepthInterval({1000, 2000});

@@ -9,8 +9,6 @@
 
 namespace {
 constexpr int SIZE = 100;
-constexpr double INF = std::numeric_limits<double>::infinity();
-constexpr double NOT_A_NUMBER = std::numeric_limits<double>::quiet_NaN();
 using Points = std::vector<QPointF>;
 
 QImage Paint(std::function<void(QPainter&)> const& draw, QPen const& pen = QPen(Qt::red, 1))
@@ -69,10 +67,10 @@ TEST(ClippedDrawingTest, LinesThatRunFarOutsideKeepTheirPixels)
 
 TEST(ClippedDrawingTest, PointsThatAreNoNumbersAreLeftOut)
 {
-    Points const holes{{0, 0}, {NOT_A_NUMBER, 5}, {INF, 7}, {-INF, 7}, {40, 40}, {50, INF}};
+    Points const holes{{0, 0}, {NAN, 5}, {INFINITY, 7}, {-INFINITY, 7}, {40, 40}, {50, INFINITY}};
     EXPECT_EQ(Polyline(holes), PlainPolyline({{0, 0}, {40, 40}}));
-    EXPECT_EQ(Polyline({{NOT_A_NUMBER, NOT_A_NUMBER}, {INF, 1}}), Polyline({}));
-    EXPECT_EQ(Polygon({{INF, 1}}), Polygon({}));
+    EXPECT_EQ(Polyline({{NAN, NAN}, {INFINITY, 1}}), Polyline({}));
+    EXPECT_EQ(Polygon({{INFINITY, 1}}), Polygon({}));
 }
 
 TEST(ClippedDrawingTest, PolygonsThatRunFarOutsideKeepTheirFill)

@@ -27,7 +27,6 @@ TEST(ColumnGeometryTest, RowToDepthRoundsTheScaleToSinglePrecision)
 
 TEST(ColumnGeometryTest, ScrollBarShowsThePlaceOfTheView)
 {
-    double const infinity = std::numeric_limits<double>::infinity();
     using Case = std::tuple<char const*, Interval, Interval, int, ScrollBarState>;
     for (auto const& [what, total, view, height, expected] : std::vector<Case>{
              {"a total that does not begin at 0", {-100, 900}, {150, 650}, 300, {300, 150}},
@@ -38,7 +37,7 @@ TEST(ColumnGeometryTest, ScrollBarShowsThePlaceOfTheView)
              {"a view without length", {0, 5000}, {1000, 1000}, 600, {0, 0}},
              {"nothing at all", Interval(), Interval(), 600, {0, 0}},
              {"more than an int holds", {0, 1e12}, {0, 1e-3}, 1000, {std::numeric_limits<int>::max(), 0}},
-             {"endless", {0, infinity}, {0, 1}, 600, {0, 0}},
+             {"endless", {0, INFINITY}, {0, 1}, 600, {0, 0}},
          }) {
         ScrollBarState const state = CalculateScrollBar(total, view, height);
         EXPECT_EQ(state.maximum, expected.maximum) << what;

@@ -146,7 +146,7 @@ TEST_F(CurveRendererTest, BinsFallOnTheRowsBeneathTheirStart)
     }
     ASSERT_GE(columns.size(), 8U);
     columns.resize(8);
-    double const inf = static_cast<double>(INF);
+    double const inf = INFINITY;
     EXPECT_EQ(columns, (std::vector<double>{0, 2, inf, -inf, inf, -inf, 3, 5}));
 }
 
@@ -220,8 +220,8 @@ TEST_F(CurveRendererTest, NothingToDraw)
                            int height = 100) {
         return Render(CurveRenderer::RenderCurve, curve, scale, width, height, view).size();
     };
-    double const nan = static_cast<double>(NOT_A_NUMBER);
-    double const inf = static_cast<double>(INF);
+    double const nan = NAN;
+    double const inf = INFINITY;
     Interval const all(0, 1000);
     EXPECT_GT(count(all), 0U);
     for (Interval const& scale : {Interval(3, 3), Interval(nan, 3), Interval(-inf, inf)}) {
@@ -248,7 +248,7 @@ TEST_F(CurveRendererTest, ShortOddAndUglyCurvesStayInBounds)
         double const first = pick(0, -100, 5000, 1e30);
         double const step = pick(0.001, 0.1, 1, 0, -0.1, 1e30);
         auto const channel = MakeRegularChannel(size, first, step, [&](std::size_t) {
-            return static_cast<float>(pick(0, 1, 50, 1e30, -1e30, static_cast<double>(INF), std::nan("")));
+            return static_cast<float>(pick(0, 1, 50, 1e30, -1e30, INFINITY, std::nan("")));
         });
         DepthCurve curve(channel);
         if (random() % 4 != 0) {

@@ -7,8 +7,6 @@
 
 /// Channels for curve tests.
 namespace curve_support {
-inline constexpr float INF = std::numeric_limits<float>::infinity();
-inline constexpr float NOT_A_NUMBER = std::numeric_limits<float>::quiet_NaN();
 
 /// `size` samples at first, first + step, ...
 inline std::shared_ptr<StorageDataChannel> MakeRegularChannel(std::size_t size, double first, double step,

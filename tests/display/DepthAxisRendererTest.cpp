@@ -128,12 +128,11 @@ TEST_F(DepthAxisRendererTest, LongLabelsFitIntoANarrowRuler)
 
 TEST_F(DepthAxisRendererTest, OddIntervalsAndSizesEnd)
 {
-    double const inf = std::numeric_limits<double>::infinity();
     for (QSize const size : {QSize(1, 1), QSize(38, 3), QSize(3, 500), QSize(60, 2000)}) {
         for (Interval const& interval :
-             {Interval(0, 5000), Interval(5, 5), Interval(7, 3), Interval(0, inf), Interval(std::nan(""), 3),
-              Interval(1e30, 1.0001e30), Interval(-1e300, 1e300), Interval(5000, 5000.0001),
-              Interval(-20, 20)}) {
+             {Interval(0, 5000), Interval(5, 5), Interval(7, 3), Interval(0, INFINITY),
+              Interval(std::nan(""), 3), Interval(1e30, 1.0001e30), Interval(-1e300, 1e300),
+              Interval(5000, 5000.0001), Interval(-20, 20)}) {
             for (double const dpi : {0.0, 1.0, 96.0, 1200.0}) {
                 QImage image(size, QImage::Format_ARGB32_Premultiplied);
                 image.fill(Qt::white);

@@ -18,7 +18,7 @@ void ExpectBinsCoverSamples(DepthCurve const& curve, std::vector<float> const& s
     for (auto const& bins : curve.GetBinLevels()) {
         width *= 3;
         for (std::size_t bin = 0; bin < bins.size(); ++bin) {
-            CurveBin expected(-INF, INF);
+            CurveBin expected(-INFINITY, INFINITY);
             for (std::size_t i = bin * width; i < std::min((bin + 1) * width, samples.size()); ++i) {
                 expected.minimum = std::fmin(expected.minimum, samples[i]); // the one that is a number
                 expected.maximum = std::fmax(expected.maximum, samples[i]);
@@ -46,7 +46,7 @@ TEST(DepthCurveTest, BinLevelsCoverTheirSamples)
                                                                    {100'003, {33'335, 11'112, 3704, 1235}}}) {
         std::vector<float> samples(size);
         for (float& sample : samples) {
-            sample = value(random) > 800 ? NOT_A_NUMBER : value(random);
+            sample = value(random) > 800 ? NAN : value(random);
         }
         auto const channel = MakeRegularChannel(size, 0, 0.1, [&](std::size_t i) { return samples[i]; });
         DepthCurve curve(channel);
@@ -84,9 +84,9 @@ TEST(DepthCurveTest, ExtentIgnoresNaN)
         return DepthCurve(MakeRegularChannel(samples.size(), 0, 1, [&](std::size_t i) { return samples[i]; }))
             .GetValueInterval();
     };
-    EXPECT_EQ(extent({NOT_A_NUMBER, 3, -7, NOT_A_NUMBER, 5}), Interval(-7, 5));
+    EXPECT_EQ(extent({NAN, 3, -7, NAN, 5}), Interval(-7, 5));
     EXPECT_EQ(extent({}), Interval());
-    EXPECT_EQ(extent({NOT_A_NUMBER}), Interval());
+    EXPECT_EQ(extent({NAN}), Interval());
     std::vector<float> ramp(1000); // through the vector part and its remainder
     for (std::size_t i = 0; i < ramp.size(); ++i) {
         ramp[i] = static_cast<float>(i) - 300;

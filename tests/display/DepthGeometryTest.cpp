@@ -6,8 +6,6 @@
 namespace {
 constexpr int INT_LEAST = std::numeric_limits<int>::min();
 constexpr int INT_GREATEST = std::numeric_limits<int>::max();
-constexpr float INF = std::numeric_limits<float>::infinity();
-constexpr float NOT_A_NUMBER = std::numeric_limits<float>::quiet_NaN();
 } // namespace
 
 TEST(DepthGeometryTest, DepthToRow)
@@ -23,8 +21,8 @@ TEST(DepthGeometryTest, DepthToRow)
              {7, 100, {5, 5}, 0},
              {1e30F, 100, {0, 1}, INT_GREATEST},
              {-1e30F, 100, {0, 1}, INT_LEAST},
-             {INF, 100, {0, 1}, INT_GREATEST},
-             {NOT_A_NUMBER, 100, {0, 1}, 0},
+             {INFINITY, 100, {0, 1}, INT_GREATEST},
+             {NAN, 100, {0, 1}, 0},
              {3, 100, {-1e300, 1e300}, 50}, // 49.5
              {3, 100, Interval(), 0},
          }) {
@@ -43,7 +41,7 @@ TEST(DepthGeometryTest, DepthToIndexTruncatesTowardsZero)
     auto const index = [](float depth) { return Quorrel::ConvertDepthToIndex(depth, 5, 100, 104); };
     for (auto const& [depth, expected] :
          {std::pair(102.9F, 2), std::pair(106.5F, 6), std::pair(99.1F, 0), std::pair(98.5F, -1),
-          std::pair(1e30F, INT_GREATEST), std::pair(NOT_A_NUMBER, 0)}) {
+          std::pair(1e30F, INT_GREATEST), std::pair(NAN, 0)}) {
         EXPECT_EQ(index(depth), expected) << depth;
     }
     EXPECT_EQ(Quorrel::ConvertDepthToIndex(7, 1, 7, 7), 0);

@@ -217,10 +217,10 @@ TEST(FillAreaTest, CurvesThatAreNotThere)
 
 TEST(FillAreaTest, HugeAndMissingNumbers)
 {
-    double const inf = std::numeric_limits<double>::infinity();
     Points const left{{20, 10}, {20, 100}};
     // Rows without a bin are passed over.
-    Expect(Paint({{60, 10}, {inf, 40}, {-inf, 40}, {inf, 41}, {-inf, 41}, {60, 100}}, left, A_RIGHT_OF_B),
+    Expect(Paint({{60, 10}, {INFINITY, 40}, {-INFINITY, 40}, {INFINITY, 41}, {-INFINITY, 41}, {60, 100}},
+                 left, A_RIGHT_OF_B),
            {{40, 40}}, {{70, 40}});
     Expect(Paint({{1e30, 10}, {1e30, 100}}, {{-1e30, 10}, {-1e30, 100}}, A_RIGHT_OF_B), {{0, 50}, {99, 50}},
            {{50, 5}});

@@ -11,8 +11,6 @@ BaseChart::Values Make(std::vector<float> values)
     return std::make_shared<std::vector<float> const>(std::move(values));
 }
 
-float const nan_value = std::numeric_limits<float>::quiet_NaN();
-
 /// How many of the chart's 500 x 400 pixels show the colour of the line.
 int CountLinePixels(QWidget& chart, QRect const& part = {})
 {
@@ -47,9 +45,8 @@ TEST(XYChartTest, AxesHaveRoundTicks)
         EXPECT_GT(axis.interval.upper, value);
         EXPECT_LE(axis.interval.Delta() / axis.step, 20);
     }
-    double const infinity = std::numeric_limits<double>::infinity();
     for (Interval const& none :
-         {Interval(), Interval(0, infinity), Interval(std::nan(""), 1), Interval(2, 1)}) {
+         {Interval(), Interval(0, INFINITY), Interval(std::nan(""), 1), Interval(2, 1)}) {
         EXPECT_EQ(BaseChart::CalculateAxis(none, 500).interval, Interval(0, 1));
     }
 }
@@ -65,7 +62,7 @@ TEST(XYChartTest, DecimalsTellTicksApart)
 
 TEST(XYChartTest, AxesSpanTheData)
 {
-    XYChart chart(Make({0, nan_value, 50, 100}), Make({-2, 1000, 3, std::numeric_limits<float>::infinity()}));
+    XYChart chart(Make({0, NAN, 50, 100}), Make({-2, 1000, 3, std::numeric_limits<float>::infinity()}));
     chart.resize(700, 500);
     chart.grab();
     EXPECT_EQ(chart.GetXAxis().interval, Interval(0, 100));
@@ -78,7 +75,7 @@ TEST(XYChartTest, DrawsALineThroughItsPoints)
     EXPECT_GT(CountLinePixels(chart), 100);
 
     // Values that are not numbers break it; fewer than two points make none.
-    XYChart broken(Make({0, 5, 10}), Make({0, nan_value, 10}));
+    XYChart broken(Make({0, 5, 10}), Make({0, NAN, 10}));
     EXPECT_LT(CountLinePixels(broken), 60);
     for (auto const& [x, y] : {std::pair(Make({}), Make({})), std::pair(Make({1}), Make({2, 3})),
                                std::pair(BaseChart::Values(), BaseChart::Values())}) {

@@ -8,10 +8,6 @@
 
 using testing::ElementsAre;
 
-namespace {
-constexpr float NaN = std::numeric_limits<float>::quiet_NaN();
-}
-
 TEST(BaseDepthDataChannel, InterpolatesBetweenTrueDepths)
 {
     auto const channel = MakeChannel({10, 12, 14}, {0, 20, 60});
@@ -76,14 +72,14 @@ TEST(BaseDepthDataChannel, EstimatesTheExtentOfValuesByProportion)
     EXPECT_EQ(ramp->GetValueInterval(100, 100), Interval(0, 0));
 
     Samples samples(1000, 0.0F);
-    samples[3] = NaN;
+    samples[3] = NAN;
     samples[501] = -7;
     samples[999] = 8;
     auto const peaks = MakeChannel(Depths(0, 1, 1000), samples);
     EXPECT_EQ(peaks->GetValueInterval(0, 999), Interval(-7, 8));
     EXPECT_EQ(peaks->GetValueInterval(0, 900), Interval(-7, 0));
     EXPECT_EQ(peaks->GetValueInterval(600, 900), Interval(0, 0));
-    EXPECT_EQ(MakeChannel({0, 1}, {NaN, NaN})->GetValueInterval(0, 1), Interval());
+    EXPECT_EQ(MakeChannel({0, 1}, {NAN, NAN})->GetValueInterval(0, 1), Interval());
 }
 
 TEST(BaseDepthDataChannel, AveragesBetweenIndicesBothIncluded)

@@ -15,7 +15,6 @@ using testing::ElementsAre;
 
 namespace {
 constexpr float N = -999.25F;
-constexpr float NaN = std::numeric_limits<float>::quiet_NaN();
 LogPassIdentifier const IDENTIFIER(3, "hash");
 
 Samples Mended(Samples samples)
@@ -33,7 +32,7 @@ TEST(BaseLog, MendsNullSamples)
     EXPECT_THAT(Mended({N, N}), ElementsAre(N, N));
     EXPECT_THAT(Mended({N}), ElementsAre(N));
     EXPECT_THAT(Mended({}), ElementsAre());
-    Samples const with_nan = Mended({N, NaN, N, 3, N});
+    Samples const with_nan = Mended({N, NAN, N, 3, N});
     EXPECT_TRUE(std::isnan(with_nan[0]) && std::isnan(with_nan[1]) && std::isnan(with_nan[2]));
     EXPECT_THAT(Samples(with_nan.begin() + 3, with_nan.end()), ElementsAre(3, 3));
 }

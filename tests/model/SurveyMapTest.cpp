@@ -77,5 +77,6 @@ TEST(DataStorageMap, KeysAndNamesOfStoredChannels)
     storage.AddDataChannelToDataStorage(40, MakeChannel({1}, {1}, "stored"));
     EXPECT_EQ(storage.MoveStorageDataChannelToStorage(MakeChannel({1}, {1}, "new"), 5), 41);
     EXPECT_EQ(storage.MoveStorageDataChannelToStorage(nullptr, 5), -1);
+    EXPECT_EQ(Survey(5, "S").CopyDataChannelToStorage({}, 0), -1);
     EXPECT_EQ(storage.size(), 4U);
 }

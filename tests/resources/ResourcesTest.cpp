@@ -3,6 +3,8 @@
 
 #include "resources/Resources.h"
 
+#include "support/Texts.h"
+
 #include <QDirIterator>
 #include <QImage>
 #include <QPainter>
@@ -62,12 +64,6 @@ double ReadableShare(QImage const& picture, QColor const& background)
 
 QColor const LIGHT_BACKGROUND(0xf0, 0xf0, 0xf0);
 QColor const DARK_BACKGROUND(0x23, 0x26, 0x29);
-
-/// Names that stand between bars.
-QStringList List(char const* names)
-{
-    return QString(names).split('|');
-}
 
 QStringList const ACTION_ICONS =
     List("Convert DLIS|DLIS Browser|New Survey|Open Project|New Project|Add LAS File|Save Project|"

@@ -3,6 +3,12 @@
 
 #pragma once
 
+/// Texts that stand between bars.
+inline QStringList List(char const* texts)
+{
+    return QString(texts).split('|');
+}
+
 /// What `text`, a function or a member such as &QAction::text, gives for each element.
 template <class Range, class Text>
 QStringList Texts(Range const& range, Text const& text)

@@ -12,8 +12,6 @@
 
 namespace {
 using std::numbers::pi;
-constexpr float NAN_F = std::numeric_limits<float>::quiet_NaN();
-constexpr float INF_F = std::numeric_limits<float>::infinity();
 
 DirectionalSurveyData Survey(std::vector<DirectionalSurveyItem> const& stations,
                              DirectionalSurveyTieInData const& tie_in = {})
@@ -35,7 +33,7 @@ void ExpectSame(WellTrajectoryItem const& item, std::istream& reference)
         {"DLS", item.dls, 1e-6F},
         {"vertical section", item.vertical_section, 1e-6F}};
     for (auto const& [name, actual, floor] : numbers) {
-        float expected = NAN_F;
+        float expected = NAN;
         reference >> expected;
         EXPECT_NEAR(actual, expected, std::max(floor, std::fabs(expected) * 2.4e-7F)) << name;
     }
@@ -67,7 +65,7 @@ TEST(DirectionalSurveyData, AgreesWithReferenceWells)
             ExpectSame(survey.GetWellTrajectoryData().at(item++), text);
             ++compared;
         } else if (word == "at") {
-            float depth = NAN_F;
+            float depth = NAN;
             std::istringstream(line.substr(word.size())) >> depth;
             ExpectSame(survey.InterpolateWellTrajectory(depth).value(), text);
             ++compared;
@@ -163,7 +161,7 @@ TEST(DirectionalSurveyData, KickOffFromVerticalKeepsItsAzimuth)
 TEST(DirectionalSurveyData, InterpolatesBetweenTheFirstAndTheLastStationOnly)
 {
     DirectionalSurveyData const survey = Survey({{100, 0, 0}, {130, 10, 0}, {160, 40, 0}});
-    for (float const depth : {std::nextafter(100.0F, 0.0F), std::nextafter(160.0F, 999.0F), NAN_F}) {
+    for (float const depth : {std::nextafter(100.0F, 0.0F), std::nextafter(160.0F, 999.0F), NAN}) {
         EXPECT_FALSE(survey.InterpolateWellTrajectory(depth).has_value()) << depth;
     }
     for (float const depth : {130.0F, 160.0F}) {
@@ -232,13 +230,13 @@ TEST(DirectionalSurveyData, FaultyStationsPassThrough)
 
     std::vector<DirectionalSurveyItem> stations;
     for (int i = 0; i < 2000; ++i) {
-        float const depths[] = {NAN_F, static_cast<float>(i % 90), -INF_F, static_cast<float>(-i), INF_F};
-        stations.emplace_back(depths[i % 5], i % 13 == 0 ? NAN_F : 400.0F * (i % 7),
-                              i % 17 == 0 ? INF_F : -720.0F);
+        float const depths[] = {NAN, static_cast<float>(i % 90), -INFINITY, static_cast<float>(-i), INFINITY};
+        stations.emplace_back(depths[i % 5], i % 13 == 0 ? NAN : 400.0F * (i % 7),
+                              i % 17 == 0 ? INFINITY : -720.0F);
     }
     DirectionalSurveyData const junk = Survey(stations);
     EXPECT_EQ(junk.GetWellTrajectoryData().size(), stations.size());
-    for (float md : {-INF_F, 0.0F, 45.5F, 1e30F, INF_F, NAN_F}) {
+    for (float md : {-INFINITY, 0.0F, 45.5F, 1e30F, INFINITY, NAN}) {
         (void)junk.InterpolateWellTrajectory(md);
     }
     (void)junk.GenerateIntervalDepthString({-1e300, std::nan("")});

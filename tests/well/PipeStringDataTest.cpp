@@ -207,12 +207,11 @@ TEST(PipeStringData, StringsThatLeadBackEnd)
     PipeStringData const endless = Data({Single("far", far - 4096, far, 9, 8)});
     EXPECT_EQ(endless.TraceOuterPipeDownwards({far, 2 * far}).size(), 1U);
 
-    double const inf = std::numeric_limits<double>::infinity();
     PipeStringData const infinite =
-        Data({Single("x", -inf, inf, 9, 8), Single("y", 0, inf, 10, 9), Single("z", 0, std::nan(""), 11, 10),
-              Single("t", 0, inf, 5, 4, true)});
-    for (double depth : {-inf, 0.0, 1e300, inf, std::nan("")}) {
-        EXPECT_LE(infinite.TraceOuterPipeDownwards({depth, inf}).size(), 4U);
+        Data({Single("x", -INFINITY, INFINITY, 9, 8), Single("y", 0, INFINITY, 10, 9),
+              Single("z", 0, std::nan(""), 11, 10), Single("t", 0, INFINITY, 5, 4, true)});
+    for (double depth : std::vector<double>{-INFINITY, 0, 1e300, INFINITY, NAN}) {
+        EXPECT_LE(infinite.TraceOuterPipeDownwards({depth, INFINITY}).size(), 4U);
         EXPECT_LE(infinite.TraceDownwards(*infinite.FindTubing(), depth).size(), 4U);
     }
 }

@@ -261,12 +261,10 @@ TEST_F(WellSketchRendererTest, StatusTexts)
 
 TEST_F(WellSketchRendererTest, WhatHasNoPlaceIsLeftOut)
 {
-    double const nan = std::numeric_limits<double>::quiet_NaN();
-    double const infinity = std::numeric_limits<double>::infinity();
     Sketch const empty(Strings(), {});
     for (Type const type : EveryType()) {
-        for (Interval const& depth : {Interval(nan, 200), Interval(200, nan), Interval(-infinity, infinity),
-                                      Interval(200, infinity), Interval()}) {
+        for (Interval const& depth : {Interval(NAN, 200), Interval(200, NAN), Interval(-INFINITY, INFINITY),
+                                      Interval(200, INFINITY), Interval()}) {
             Sketch const sketch(Strings(), {{depth, "item", type}});
             EXPECT_EQ(sketch.image, empty.image) << static_cast<int>(type);
             EXPECT_THAT(sketch.Boxes("item"), IsEmpty());
@@ -299,13 +297,11 @@ TEST_F(WellSketchRendererTest, WhatHasNoPlaceIsLeftOut)
 
 TEST_F(WellSketchRendererTest, FaultyPipesAndViewsAreSurvived)
 {
-    double const nan = std::numeric_limits<double>::quiet_NaN();
-    float const nan_inch = std::numeric_limits<float>::quiet_NaN();
     float const null = PipeComponent::NULL_DIAMETER;
     std::vector<std::vector<PipeString>> const wells{
         {{"no sizes", 500, false, {{null, null, 0, 500, ""}}}},
-        {{"no length", nan, false, {{10, 9, 0, nan, ""}}}, {"casing", 500, false, {{10, 9, 0, 500, ""}}}},
-        {{"NaN", 500, false, {{nan_inch, nan_inch, 0, 500, ""}}}},
+        {{"no length", NAN, false, {{10, 9, 0, NAN, ""}}}, {"casing", 500, false, {{10, 9, 0, 500, ""}}}},
+        {{"NaN", 500, false, {{NAN, NAN, 0, 500, ""}}}},
         {{"inside out", 500, true, {{4, 9, 0, 500, ""}}}, {"casing", 500, false, {{10, 12, 0, 500, ""}}}},
         {{"upwards", 500, false, {{10, 9, 0, -500, ""}, {9, 8, 0, 100, ""}}}},
         {{"nothing", 500, false, {}}},
@@ -316,7 +312,7 @@ TEST_F(WellSketchRendererTest, FaultyPipesAndViewsAreSurvived)
     }
     for (auto const& well : wells) {
         for (Interval const& view :
-             {sketch_well::VIEW, Interval(1000, 0), Interval(5, 5), Interval(), Interval(nan, nan),
+             {sketch_well::VIEW, Interval(1000, 0), Interval(5, 5), Interval(), Interval(NAN, NAN),
               Interval(150, 150 + 1e-9), Interval(-1e300, 1e300)}) {
             Sketch const sketch(well, items, view);
             EXPECT_LE(sketch.boxes.size(), 200U);

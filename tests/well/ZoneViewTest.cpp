@@ -107,13 +107,11 @@ TEST_F(ZoneViewTest, TheZoneUnderTheMouseIsFramed)
 
 TEST_F(ZoneViewTest, FaultyDepthsAreSurvived)
 {
-    double const nan = std::numeric_limits<double>::quiet_NaN();
-    double const infinity = std::numeric_limits<double>::infinity();
-    interpretation = {Zone({nan, 1050}, "a", red), Zone({1050, nan}, "b", red),
-                      Zone({-infinity, infinity}, "c", blue), Zone({-1e300, 1e300}, "d", green)};
+    interpretation = {Zone({NAN, 1050}, "a", red), Zone({1050, NAN}, "b", red),
+                      Zone({-INFINITY, INFINITY}, "c", blue), Zone({-1e300, 1e300}, "d", green)};
     view->ForceRedraw();
     EXPECT_EQ(view->grab().toImage().pixelColor(210, 10), green);
-    for (Interval const& interval : {Interval(nan, nan), Interval(5, 5), Interval(), Interval(1100, 1000)}) {
+    for (Interval const& interval : {Interval(NAN, NAN), Interval(5, 5), Interval(), Interval(1100, 1000)}) {
         pixels::Paint({300, 201}, Qt::white,
                       [&](QPainter& painter) { view->RenderToPainter(painter, interval, 300); });
         EXPECT_TRUE(view->GetBoundingBoxes().empty());

@@ -4,8 +4,6 @@
 #include "app/kit/Interval.h"
 
 namespace {
-constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr double nan_value = std::numeric_limits<double>::quiet_NaN();
 
 void ExpectInterval(Interval const& actual, double lower, double upper)
 {
@@ -27,7 +25,7 @@ TEST(Interval, KeepsTheOrderOfItsEndsUntilSorted)
     EXPECT_TRUE(reversed.Contains(1));
     EXPECT_TRUE(reversed.Contains(3));
     EXPECT_FALSE(reversed.Contains(std::nextafter(3.0, 4.0)));
-    EXPECT_FALSE(reversed.Contains(nan_value));
+    EXPECT_FALSE(reversed.Contains(NAN));
 }
 
 TEST(Interval, IsInside)
@@ -56,12 +54,12 @@ TEST(Interval, ForcesEachEndInsideOnItsOwn)
 TEST(Interval, ValidUnlessAnEndIsInfinite)
 {
     constexpr double greatest = std::numeric_limits<double>::max();
-    ExpectInterval(Interval(), infinity, -infinity); // grows to whatever is put into it
+    ExpectInterval(Interval(), INFINITY, -INFINITY); // grows to whatever is put into it
     EXPECT_FALSE(Interval().IsValid());
-    EXPECT_FALSE(Interval(0, infinity).IsValid());
-    EXPECT_FALSE(Interval(-infinity, 0).IsValid());
+    EXPECT_FALSE(Interval(0, INFINITY).IsValid());
+    EXPECT_FALSE(Interval(-INFINITY, 0).IsValid());
     EXPECT_TRUE(Interval(-greatest, greatest).IsValid());
-    EXPECT_TRUE(Interval(nan_value, nan_value).IsValid());
+    EXPECT_TRUE(Interval(NAN, NAN).IsValid());
 }
 
 TEST(Interval, OrdersByLowerThenUpperEnd)
@@ -70,7 +68,7 @@ TEST(Interval, OrdersByLowerThenUpperEnd)
     std::sort(intervals.begin(), intervals.end());
     EXPECT_EQ(intervals, (std::vector<Interval>{{1, 4}, {1, 9}, {2, 1}, {2, 3}}));
     EXPECT_FALSE(Interval(1, 2) < Interval(1, 2));
-    EXPECT_FALSE(Interval(1, nan_value) == Interval(1, nan_value));
+    EXPECT_FALSE(Interval(1, NAN) == Interval(1, NAN));
 }
 
 TEST(Interval, MovesByANumberAndExpandsByAFactor)

@@ -115,8 +115,7 @@ TEST_F(NumericKit, PercentilesTakeTheSampleAtTheTruncatedIndex)
 
 TEST_F(NumericKit, PercentilesOfSamplesWithNaNStayInBounds)
 {
-    float const nan_value = std::numeric_limits<float>::quiet_NaN();
-    std::vector<float> values(4097, nan_value);
+    std::vector<float> values(4097, NAN);
     for (std::size_t i = 0; i < values.size(); i += 3) {
         values[i] = static_cast<float>(values.size() - i);
     }

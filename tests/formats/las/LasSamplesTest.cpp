@@ -15,9 +15,7 @@ bool IsKnownRefusal(std::string const& text)
         "\"DLM\" is not equal to \"SPACE\".",
         "Unknown Version: ",
         "Undefined Mnem: VERS",
-        "Undefined Mnem: STRT",
-        "Undefined Mnem: STOP",
-        "Undefined Mnem: STEP",
+        "Undefined Mnem: ST",
         "Incorrect LAS File header. Check STRT, STOP and STEP",
         " Invalid value in ASCII data-section of LAS-file.",
         "Reached end of LAS file before the depth/time(first) column at data-row number: ",
@@ -32,8 +30,7 @@ bool IsKnownRefusal(std::string const& text)
         "Expected number of columns are: ",
         "At depth: ",
         "Did not read expected number of rows: ",
-        "The LAS V.3 file has no data section",
-    };
+        "The LAS V.3 file has no data section"};
     return std::any_of(refusals.begin(), refusals.end(),
                        [&text](std::string const& refusal) { return text.starts_with(refusal); });
 }

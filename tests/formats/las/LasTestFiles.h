@@ -15,6 +15,15 @@ using Doubles = std::vector<double>;
 /// Three rows of DEPT, GR and RHOB from 1 to 2 m.
 inline std::string const GOOD_ROWS = "1.0 10 2.10\n1.5 20 2.20\n2.0 30 2.30\n";
 
+/// The file holds GOOD_ROWS.
+inline void ExpectGoodRows(LASFile const& file, std::string const& what = {})
+{
+    EXPECT_EQ(file.GetDepthVector(), (Doubles{1.0, 1.5, 2.0})) << what;
+    ASSERT_EQ(file.GetDataMatrix().size(), 2U) << what;
+    EXPECT_EQ(*file.GetDataMatrix()[0], (Floats{10.0F, 20.0F, 30.0F})) << what;
+    EXPECT_EQ(*file.GetDataMatrix()[1], (Floats{2.1F, 2.2F, 2.3F})) << what;
+}
+
 /// The text that refuses a word among the numbers.
 inline std::string InvalidValue(std::string const& word)
 {

@@ -167,7 +167,9 @@ TEST(QZ4LoadFileTest, MissingItemsLeaveTheirDefaults)
     auto const main = file.LoadMain(container);
     EXPECT_EQ(main.current_survey_key, -1);
     EXPECT_EQ(main.survey_count, 0);
-    EXPECT_TRUE(file.LoadSurveyData().interpretation_parameters == InterpretationParameters());
+    InterpretationParameters const usual;
+    EXPECT_TRUE(file.LoadSurveyData().interpretation_parameters == usual);
+    EXPECT_TRUE(usual.GetVpcf() == 0.83F && usual.GetUseSecondCaliper() && !usual.GetUseFixedId());
     EXPECT_EQ(file.LoadBaseLogPass().properties.identifier.survey_key, -1);
     EXPECT_TRUE(file.LoadGenericLogPass().empty());
     auto const depth = file.LoadBaseDepthChannel();

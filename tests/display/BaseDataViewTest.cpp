@@ -14,7 +14,7 @@ namespace {
 using namespace view_bench;
 
 /// A user pair 200 x 101 pixels wide, one row per metre, whose header picks the selected curve.
-class DataViewTest : public ::testing::Test
+class DataViewTest : public view_bench::BenchTest
 {
 protected:
     DataViewTest()
@@ -54,7 +54,6 @@ protected:
     }
 
     std::vector<std::shared_ptr<Channel>> ramps;
-    Bench bench;
     Column column;
     UserCombinedViewWidget user;
     AutomaticCombinedViewWidget automatic;

@@ -58,7 +58,7 @@ public:
     int set_count = 0;
 };
 
-class ScaleDialogTest : public ::testing::Test
+class ScaleDialogTest : public view_bench::BenchTest
 {
 protected:
     QLineEdit* Edit(char const* name) { return dialog.findChild<QLineEdit*>(name); }
@@ -86,7 +86,6 @@ protected:
         return scales;
     }
 
-    Bench bench;
     Target target;
     BaseScaleDialog dialog{nullptr, &target};
 };

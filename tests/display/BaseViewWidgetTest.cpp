@@ -13,12 +13,11 @@
 namespace {
 using namespace view_bench;
 
-class BaseViewWidgetTest : public ::testing::Test
+class BaseViewWidgetTest : public view_bench::BenchTest
 {
 protected:
     BaseViewWidgetTest() : view(nullptr, QStringLiteral("Plain"), bench.context) { view.resize(200, 101); }
 
-    Bench bench;
     PlainView view;
 };
 

@@ -63,7 +63,7 @@ std::shared_ptr<TimeLog> MakeTimeLog(QString const& hash, float depth, QStringLi
                                      std::vector<float> const& samples = {1, 2, 3});
 
 /// A column on screen (offscreen platform), 1000 px wide, on a bench of its own.
-class ColumnFixture : public testing::Test
+class ColumnFixture : public view_bench::BenchTest
 {
 protected:
     void SetUp() override;
@@ -86,7 +86,6 @@ protected:
 
     static constexpr int SURVEY = 1;
 
-    view_bench::Bench bench;
     PlainViewFactory factory;
     std::vector<std::shared_ptr<DepthLogPass>> passes;
     std::unique_ptr<QWidget> window;

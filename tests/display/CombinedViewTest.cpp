@@ -22,12 +22,11 @@
 namespace {
 using namespace view_bench;
 
-class CombinedViewTest : public ::testing::Test
+class CombinedViewTest : public view_bench::BenchTest
 {
 protected:
     CombinedViewTest() { pair.resize(300, 200); }
 
-    Bench bench;
     Column column;
     AutomaticCombinedViewWidget pair{QStringLiteral("GR"), bench.context, &column};
     std::shared_ptr<Channel> const channel = MakeRamp("a", 0, "GR");

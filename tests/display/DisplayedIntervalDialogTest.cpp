@@ -11,7 +11,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-class DisplayedIntervalDialogTest : public testing::Test
+class DisplayedIntervalDialogTest : public view_bench::BenchTest
 {
 protected:
     static void Type(DisplayedIntervalDialog const& dialog, QString const& top, QString const& bottom)
@@ -28,11 +28,9 @@ protected:
     {
         return dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->isEnabled();
     }
-
-    view_bench::Bench bench; // in metres, puts the settings back
 };
 
-TEST_F(DisplayedIntervalDialogTest, ShowsAndReadsMetres)
+TEST_F(DisplayedIntervalDialogTest, ShowsAndReadsTheSettingsUnitAndNumberFormat)
 {
     DisplayedIntervalDialog dialog(true, {1000.5, 2500});
     EXPECT_EQ(Texts(dialog), QStringList({"1,000.50", "2,500.00"}));
@@ -40,18 +38,13 @@ TEST_F(DisplayedIntervalDialogTest, ShowsAndReadsMetres)
     EXPECT_EQ(dialog.GetTotalDisplayedInterval(), Interval(1000.5, 2500));
     Type(dialog, "12.25", "400");
     EXPECT_EQ(dialog.GetTotalDisplayedInterval(), Interval(12.25, 400));
-}
 
-TEST_F(DisplayedIntervalDialogTest, ShowsAndReadsFeetInTheChosenNumberFormat)
-{
-    SettingsSingleton::Instance().SetMetricDepth(false);
-    SettingsSingleton::Instance().SetSeparatorSelection(International);
-    DisplayedIntervalDialog dialog(true, {304.8, 3048});
-    EXPECT_EQ(Texts(dialog), QStringList({"1.000,00", "10.000,00"}));
-    Type(dialog, "100,5", "2.000");
-    Interval const typed = dialog.GetTotalDisplayedInterval();
-    EXPECT_NEAR(typed.lower, 30.6324, 1e-5);
-    EXPECT_NEAR(typed.upper, 609.6, 1e-4);
+    NumberFormatScope::Set({International, false});
+    DisplayedIntervalDialog in_feet(true, {304.8, 3048});
+    EXPECT_EQ(Texts(in_feet), QStringList({"1.000,00", "10.000,00"}));
+    Type(in_feet, "100,5", "2.000");
+    EXPECT_NEAR(in_feet.GetTotalDisplayedInterval().lower, 30.6324, 1e-5);
+    EXPECT_NEAR(in_feet.GetTotalDisplayedInterval().upper, 609.6, 1e-4);
 }
 
 TEST_F(DisplayedIntervalDialogTest, TheEditsAreOffWithoutOverrideAndOkWantsAnAscendingInterval)

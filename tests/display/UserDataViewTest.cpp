@@ -55,14 +55,13 @@ TEST(TreeItemDropData, RefusesDamagedPayloads)
     EXPECT_FALSE(Quorrel::ReadTreeItemDropData(foreign).has_value());
 }
 
-class UserDataViewTest : public ::testing::Test
+class UserDataViewTest : public view_bench::BenchTest
 {
 protected:
     UserDataViewTest() : pair(QStringLiteral("Mine"), bench.context, &column) { View().resize(200, 101); }
 
     UserDataView& View() { return *pair.GetUserDataView(); }
 
-    Bench bench;
     Column column;
     UserCombinedViewWidget pair;
 };

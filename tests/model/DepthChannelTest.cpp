@@ -36,11 +36,9 @@ TEST(DepthChannel, KeepsBothUnitsSideBySide)
     EXPECT_EQ(imperial.GetShift(), 0);
     EXPECT_EQ(imperial.GetStretch(), 1);
 
-    {
-        NumberFormatScope const scope({US, true});
-        EXPECT_EQ(imperial.GetDepthVector_settings_unit().lock(), imperial.GetDepthVector_metric().lock());
-    }
-    NumberFormatScope const scope({US, false});
+    NumberFormatScope const scope;
+    EXPECT_EQ(imperial.GetDepthVector_settings_unit().lock(), imperial.GetDepthVector_metric().lock());
+    NumberFormatScope::Set({US, false});
     EXPECT_EQ(imperial.GetDepthVector_settings_unit().lock(), imperial.GetDepthVector_imperial().lock());
 }
 

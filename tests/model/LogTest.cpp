@@ -181,19 +181,14 @@ TEST(TimeLog, AsksForItsDepth)
         LASFile file = MakeTimeFile({0, 1, 2}, {{"PRES", {N, 5, 6}}});
         return TimeLog(file, "/data/stop 1.las", IDENTIFIER, QPen()).GetLogDepth();
     };
-    {
-        NumberFormatScope const scope({US, true});
-        EXPECT_EQ(depth_of_new_log(), 1000);
-        EXPECT_EQ(asked_title, "Log Depth[m]");
-        EXPECT_EQ(asked_label, "stop 1.las");
-    }
-    {
-        NumberFormatScope const scope({US, false});
-        EXPECT_EQ(depth_of_new_log(), 1000 * 0.3048F);
-        EXPECT_EQ(asked_title, "Log Depth[ft]");
-        answer.reset();
-        EXPECT_EQ(depth_of_new_log(), 0);
-    }
+    NumberFormatScope const scope;
+    EXPECT_EQ(depth_of_new_log(), 1000);
+    EXPECT_EQ(asked_title + asked_label, "Log Depth[m]stop 1.las");
+    NumberFormatScope::Set({US, false});
+    EXPECT_EQ(depth_of_new_log(), 1000 * 0.3048F);
+    EXPECT_EQ(asked_title, "Log Depth[ft]");
+    answer.reset();
+    EXPECT_EQ(depth_of_new_log(), 0);
     LogDepthQuestion::Install({});
     EXPECT_EQ(depth_of_new_log(), 0);
 }

@@ -21,7 +21,7 @@ namespace {
 using Type = WellComponentType;
 
 /// A sketch of the well of SketchWell.h on screen, one metre per row.
-class WellSketchViewTest : public testing::Test
+class WellSketchViewTest : public view_bench::BenchTest
 {
 protected:
     WellSketchViewTest()
@@ -53,7 +53,6 @@ protected:
         return view->GetStatusMessage(x, y).text;
     }
 
-    view_bench::Bench bench;
     PipeStringData strings;
     QList<WellComponent> components;
     QList<ZoneTrack> tracks;

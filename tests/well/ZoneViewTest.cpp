@@ -16,7 +16,7 @@ QColor const green(Qt::green);
 QColor const blue(Qt::blue);
 
 /// Three columns of 100 px with margins of 6 (0.02 of 300), 1000 to 1100 m over 201 rows: two rows a metre.
-class ZoneViewTest : public testing::Test
+class ZoneViewTest : public view_bench::BenchTest
 {
 protected:
     ZoneViewTest()
@@ -40,7 +40,6 @@ protected:
         image = view->grab().toImage();
     }
 
-    view_bench::Bench bench;
     QList<Zone> perforations;
     QList<ZoneTrack> tracks;
     QList<Zone> interpretation;

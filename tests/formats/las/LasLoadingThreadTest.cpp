@@ -5,10 +5,9 @@
 
 #include "LasTestFiles.h"
 #include "support/TestFiles.h"
+#include "support/WaitFor.h"
 
-#include <QEventLoop>
-#include <QObject>
-#include <QTimer>
+#include <QPointer>
 
 namespace {
 struct Result
@@ -25,8 +24,7 @@ std::vector<Result> LoadOnThread(QString const& path, DisableToken const& token)
 {
     std::vector<Result> results;
     QObject receiver;
-    QEventLoop loop;
-    auto* const thread = new LasLoadingThread(nullptr, path, token);
+    QPointer<LasLoadingThread> const thread = new LasLoadingThread(nullptr, path, token);
     QObject::connect(
         thread, &LasLoadingThread::resultReady, &receiver,
         [&](std::shared_ptr<LASFile> const& file, QString const& name, bool success, QString const& message,
@@ -35,10 +33,8 @@ std::vector<Result> LoadOnThread(QString const& path, DisableToken const& token)
             results.push_back({file, name, success, message, QThread::currentThread() == receiver.thread()});
         });
     QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-    QObject::connect(thread, &QObject::destroyed, &loop, &QEventLoop::quit);
-    QTimer::singleShot(30'000, &loop, &QEventLoop::quit);
     thread->start(QThread::InheritPriority);
-    loop.exec();
+    EXPECT_TRUE(WaitFor([&thread] { return thread.isNull(); }));
     return results;
 }
 } // namespace

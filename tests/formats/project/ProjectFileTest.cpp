@@ -35,47 +35,45 @@ using Table = void*;
 using Texts = QList<QString>;
 using Depths = std::vector<double>;
 using Shared = std::shared_ptr<void>;
-static_assert(sizeof(VIEW_WIDGET_STRUCT) == SizeOf<Table, QString, bool, QString>());
-static_assert(sizeof(BASE_DATAVIEW_STRUCT) == SizeOf<Table, QString, bool, QString, bool, bool, bool>());
-static_assert(sizeof(INTERMEDIATE_DATAVIEW_STRUCT) == SizeOf<BASE_DATAVIEW_STRUCT, std::vector<Shared>>());
-static_assert(sizeof(USER_DATAVIEW_STRUCT) ==
-              SizeOf<INTERMEDIATE_DATAVIEW_STRUCT, std::vector<int>, std::vector<int>>());
-static_assert(sizeof(IMAGE_DATAVIEW_STRUCT) ==
-              SizeOf<BASE_DATAVIEW_STRUCT, LogPassIdentifier, QString, double, double, QString>());
-static_assert(sizeof(MFC_DATAVIEW_STRUCT) ==
-              SizeOf<BASE_DATAVIEW_STRUCT, QString, QString, double, double, double, double>());
-static_assert(sizeof(FillAreaDefinition) ==
-              SizeOf<QString, DataChannelIdentifier, DataChannelIdentifier, float, int, int, QColor>());
-static_assert(sizeof(HeaderRow) == SizeOf<QString, QString, QString, QString>());
-static_assert(sizeof(LASHeaderSection) == SizeOf<std::vector<HeaderRow>>());
-static_assert(sizeof(DataChannelIdentifier) == SizeOf<LogPassIdentifier, int>());
-static_assert(sizeof(LogPassIdentifier) == SizeOf<int, QString>());
-static_assert(sizeof(BaseLog) ==
-              SizeOf<Table, BaseLog::DataMatrix, LASHeaderSection, LASHeaderSection, LASHeaderSection,
-                     LASHeaderSection, LASHeaderSection, Texts, Shared, float, QString>());
-static_assert(sizeof(DepthLogPass) == SizeOf<BaseLog, std::vector<Shared>, DepthChannel>());
-static_assert(sizeof(TimeLog) == SizeOf<BaseLog, std::vector<Shared>, Depths, float>());
-static_assert(sizeof(DepthChannel) == SizeOf<Shared, Shared, Depths, bool, double, double>());
-static_assert(sizeof(BaseDataChannel) == SizeOf<Table, DataChannelIdentifier, HeaderRow, Shared>());
-static_assert(sizeof(StorageDataChannel) == SizeOf<BaseDataChannel, DepthChannel, QString>());
+template <typename Object, typename... Members>
+constexpr bool Holds = sizeof(Object) == SizeOf<Members...>();
+static_assert(Holds<VIEW_WIDGET_STRUCT, Table, QString, bool, QString>);
+static_assert(Holds<BASE_DATAVIEW_STRUCT, Table, QString, bool, QString, bool, bool, bool>);
+static_assert(Holds<INTERMEDIATE_DATAVIEW_STRUCT, BASE_DATAVIEW_STRUCT, std::vector<Shared>>);
+static_assert(Holds<USER_DATAVIEW_STRUCT, INTERMEDIATE_DATAVIEW_STRUCT, std::vector<int>, std::vector<int>>);
 static_assert(
-    sizeof(InterpretationParameters) ==
-    SizeOf<int, float, float, float, float, float, QString, QString, bool, float, bool, QString, QString>());
+    Holds<IMAGE_DATAVIEW_STRUCT, BASE_DATAVIEW_STRUCT, LogPassIdentifier, QString, double, double, QString>);
 static_assert(
-    sizeof(Survey) ==
-    SizeOf<CombinedLogMap, DataStorageMap, InterpretationParameters, QList<Zone>, int, QString, QString>());
-static_assert(sizeof(Zone) == SizeOf<Interval, QString, QColor>());
-static_assert(sizeof(ZoneTrack) == SizeOf<QString, QList<Zone>>());
-static_assert(sizeof(DepthMarker) == SizeOf<float, QString>());
-static_assert(sizeof(WellComponent) == SizeOf<Interval, int, QString>());
-static_assert(sizeof(DirectionalSurveyItem) == SizeOf<float, float, float>());
-static_assert(sizeof(DirectionalSurveyTieInData) == SizeOf<double, double, double>());
-static_assert(sizeof(PipeComponent) == SizeOf<float, float, float, double, QString>());
-static_assert(sizeof(PipeString) == SizeOf<PipeString::ComponentVector, QString, double, bool, QString,
-                                           Interval, double, double, Interval, Interval, Interval>());
-static_assert(sizeof(DataContainer) ==
-              SizeOf<QString, SurveyMap, DirectionalSurveyData, PipeStringData, QList<WellComponent>,
-                     QList<ZoneTrack>, QList<Zone>, QList<DepthMarker>, QList<DepthMarker>>());
+    Holds<MFC_DATAVIEW_STRUCT, BASE_DATAVIEW_STRUCT, QString, QString, double, double, double, double>);
+static_assert(Holds<FillAreaDefinition, QString, DataChannelIdentifier, DataChannelIdentifier, float, int,
+                    int, QColor>);
+static_assert(Holds<HeaderRow, QString, QString, QString, QString>);
+static_assert(Holds<LASHeaderSection, std::vector<HeaderRow>>);
+static_assert(Holds<DataChannelIdentifier, LogPassIdentifier, int>);
+static_assert(Holds<LogPassIdentifier, int, QString>);
+static_assert(Holds<BaseLog, Table, BaseLog::DataMatrix, LASHeaderSection, LASHeaderSection, LASHeaderSection,
+                    LASHeaderSection, LASHeaderSection, Texts, Shared, float, QString>);
+static_assert(Holds<DepthLogPass, BaseLog, std::vector<Shared>, DepthChannel>);
+static_assert(Holds<TimeLog, BaseLog, std::vector<Shared>, Depths, float>);
+static_assert(Holds<DepthChannel, Shared, Shared, Depths, bool, double, double>);
+static_assert(Holds<BaseDataChannel, Table, DataChannelIdentifier, HeaderRow, Shared>);
+static_assert(Holds<StorageDataChannel, BaseDataChannel, DepthChannel, QString>);
+static_assert(Holds<InterpretationParameters, int, float, float, float, float, float, QString, QString, bool,
+                    float, bool, QString, QString>);
+static_assert(Holds<Survey, CombinedLogMap, DataStorageMap, InterpretationParameters, QList<Zone>, int,
+                    QString, QString>);
+static_assert(Holds<Zone, Interval, QString, QColor>);
+static_assert(Holds<ZoneTrack, QString, QList<Zone>>);
+static_assert(Holds<DepthMarker, float, QString>);
+static_assert(Holds<WellComponent, Interval, int, QString>);
+static_assert(Holds<DirectionalSurveyItem, float, float, float>);
+static_assert(Holds<DirectionalSurveyTieInData, double, double, double>);
+static_assert(Holds<PipeComponent, float, float, float, double, QString>);
+static_assert(Holds<PipeString, PipeString::ComponentVector, QString, double, bool, QString, Interval, double,
+                    double, Interval, Interval, Interval>);
+static_assert(
+    Holds<DataContainer, QString, SurveyMap, DirectionalSurveyData, PipeStringData, QList<WellComponent>,
+          QList<ZoneTrack>, QList<Zone>, QList<DepthMarker>, QList<DepthMarker>>);
 #endif
 
 class ProjectFileTest : public ::testing::Test

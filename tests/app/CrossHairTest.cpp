@@ -25,11 +25,7 @@ protected:
         ASSERT_TRUE(WaitFor([&] { return !loaded.isEmpty(); }));
         ASSERT_TRUE(loaded[0][0].toBool());
     }
-    void TearDown() override
-    {
-        Quorrel::TRACKING_MODE = false;
-        FrameFixture::TearDown();
-    }
+    ~CrossHairTest() override { Quorrel::TRACKING_MODE = false; }
 
     void SelectSurvey(int index)
     {

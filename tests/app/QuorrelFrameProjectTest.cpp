@@ -24,9 +24,8 @@ namespace {
 class QuorrelFrameProjectTest : public FrameFixture
 {
 protected:
-    void SetUp() override
+    QuorrelFrameProjectTest()
     {
-        FrameFixture::SetUp();
         SettingsSingleton::Instance().SetQz4Path(folder_.Path(""));
         SettingsSingleton::Instance().SetRecentFiles({});
     }

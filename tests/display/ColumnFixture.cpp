@@ -104,9 +104,9 @@ std::shared_ptr<TimeLog> MakeTimeLog(QString const& hash, float depth, QStringLi
     return std::make_shared<TimeLog>(Record(hash, names, "unit"), data, times, depth);
 }
 
-void ColumnFixture::SetUp()
+std::unique_ptr<ColumnWindow> ColumnFixture::MakeColumn() const
 {
-    column = std::make_unique<ColumnWindow>(SURVEY, bench.context, &factory);
+    return std::make_unique<ColumnWindow>(SURVEY, bench.context, &factory);
 }
 
 DepthLogPass& ColumnFixture::Import(QString const& hash, double top, double bottom, QStringList const& names)

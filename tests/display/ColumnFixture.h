@@ -66,8 +66,7 @@ std::shared_ptr<TimeLog> MakeTimeLog(QString const& hash, float depth, QStringLi
 class ColumnFixture : public view_bench::BenchTest
 {
 protected:
-    void SetUp() override;
-
+    [[nodiscard]] std::unique_ptr<ColumnWindow> MakeColumn() const;
     /// A pass of constant curves, imported and kept.
     DepthLogPass& Import(QString const& hash, double top, double bottom, QStringList const& names);
     /// Puts the column into a window of its own and shows it.
@@ -89,5 +88,5 @@ protected:
     PlainViewFactory factory;
     std::vector<std::shared_ptr<DepthLogPass>> passes;
     std::unique_ptr<QWidget> window;
-    std::unique_ptr<ColumnWindow> column;
+    std::unique_ptr<ColumnWindow> column = MakeColumn();
 };

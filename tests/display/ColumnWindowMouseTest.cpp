@@ -9,9 +9,8 @@
 class ColumnWindowMouseTest : public ColumnFixture
 {
 protected:
-    void SetUp() override
+    ColumnWindowMouseTest()
     {
-        ColumnFixture::SetUp();
         column->OnVisibleHeightChanged(501);
         column->SetVisibleDepthInterval({1000, 2000});
     }

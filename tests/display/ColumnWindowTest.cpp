@@ -74,15 +74,6 @@ TEST_F(ColumnWindowTest, TheFirstPassSetsTheIntervalAndShowsViewsByPriority)
     EXPECT_EQ(column->GetTotalDisplayedInterval(), Interval(799, 2001));
 }
 
-TEST_F(ColumnWindowTest, WithoutAPriorityNameTheFirstFiveViewsAreShown)
-{
-    for (BaseCombinedViewWidget* pair : column->FindAllCombinedViewWidgets()) {
-        pair->hide();
-    }
-    Import("a", 1000, 2000, {"A1", "A2", "A3"});
-    EXPECT_EQ(VisibleNames(), (QList<QString>{"Depth", "Zones", "Deviation", "Well Sketch", "A1"}));
-}
-
 TEST_F(ColumnWindowTest, StationaryLogsJoinTheViewOfTheNameWithoutPostfix)
 {
     for (auto const& [name, postfix] :
@@ -272,7 +263,7 @@ TEST_F(ColumnWindowTest, AColumnOnScreenGoesWithItsViews)
     QPointer<MyAbstractScrollArea> const area = column->GetScrollAreaWrapper()->GetScrollArea();
     column.reset();
     EXPECT_TRUE(area.isNull());
-    SetUp();
+    column = MakeColumn();
     ShowOnScreen();
     window.reset(); // the layout's parent may go first
     EXPECT_TRUE(column != nullptr);

@@ -13,13 +13,18 @@
 class ColumnWindowViewsTest : public ColumnFixture
 {
 protected:
-    void SetUp() override
+    ColumnWindowViewsTest()
     {
-        ColumnFixture::SetUp();
         passes.push_back(
             MakePass("a", 1000, 2000, 2000, {"GR", "CCL", "TEMP", "QP"},
                      [](int curve, double depth) { return static_cast<float>(depth * (curve + 1)); }));
         column->AddImportedDepthLog(passes[0]);
+    }
+
+    void Show(QList<QString> const& names)
+    {
+        column->UpdateVisibleViewWidgets(names);
+        Settle();
     }
 
     [[nodiscard]] int Width(QString const& name) const
@@ -66,16 +71,14 @@ TEST_F(ColumnWindowViewsTest, TheFirstDataViewsShareTheWidthThatTheOthersLeave)
 TEST_F(ColumnWindowViewsTest, ExactlyTheNamedViewsAreShownInTheOrderOfTheNames)
 {
     ShowOnScreen();
-    column->UpdateVisibleViewWidgets({"TEMP", "Depth", "GR"});
-    Settle();
+    Show({"TEMP", "Depth", "GR"});
     EXPECT_EQ(VisibleNames(), (QList<QString>{"TEMP", "Depth", "GR"}));
     EXPECT_EQ(Names(),
               (QList<QString>{"TEMP", "Depth", "GR", "Zones", "Deviation", "Well Sketch", "CCL", "QP"}));
     EXPECT_LT(Width("Depth"), 100) << "a ruler stays narrow";
 
     // Hidden views come back in their new place, and none is left without width.
-    column->UpdateVisibleViewWidgets({"CCL", "Depth", "nothing", "TEMP"});
-    Settle();
+    Show({"CCL", "Depth", "nothing", "TEMP"});
     EXPECT_EQ(VisibleNames(), (QList<QString>{"CCL", "Depth", "TEMP"}));
     for (QString const& name : VisibleNames()) {
         EXPECT_GE(Width(name), 20) << name.toStdString();
@@ -96,8 +99,7 @@ TEST_F(ColumnWindowViewsTest, SizesStayWithTheirViews)
     Settle();
     int const gr = Width("GR");
     int const ccl = Width("CCL");
-    column->UpdateVisibleViewWidgets({"CCL", "Depth", "GR"});
-    Settle();
+    Show({"CCL", "Depth", "GR"});
     EXPECT_LT(gr, ccl);
     EXPECT_NEAR(Width("GR"), gr, 3);
     EXPECT_NEAR(Width("CCL"), ccl, 3);
@@ -121,8 +123,7 @@ TEST_F(ColumnWindowViewsTest, ASizeOfZeroHides)
 TEST_F(ColumnWindowViewsTest, ADraggedTitleMovesItsView)
 {
     ShowOnScreen();
-    column->UpdateVisibleViewWidgets({"GR", "CCL", "TEMP", "QP"});
-    Settle();
+    Show({"GR", "CCL", "TEMP", "QP"});
     auto const drag = [&](QString const& name, double global_x) {
         emit column->FindCombinedViewWidget(name)->GetBaseScaleView()->MoveViewWidget_Signal(
             QPointF(global_x, 0));

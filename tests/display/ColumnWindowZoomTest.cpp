@@ -13,9 +13,8 @@
 class ColumnWindowZoomTest : public ColumnFixture
 {
 protected:
-    void SetUp() override
+    ColumnWindowZoomTest()
     {
-        ColumnFixture::SetUp();
         column->SetOverrideAutomaticDisplayedInterval(true);
         column->OnVisibleHeightChanged(501);
         column->SetVisibleDepthInterval({1000, 2000});

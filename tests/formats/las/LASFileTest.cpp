@@ -15,7 +15,6 @@
 #include <array>
 #include <clocale>
 #include <locale>
-#include <type_traits>
 #include <unistd.h>
 
 using namespace las_test;
@@ -50,18 +49,6 @@ TEST(LASFile, LoadsAFileOfVersion2)
     EXPECT_EQ(file.GetDelimiter(), ' ');
     EXPECT_TRUE(file.IsMetric());
     EXPECT_FALSE(file.IsTimeLog());
-}
-
-TEST(LASFile, CopiesShareTheSamplesAndMovesTakeThem)
-{
-    static_assert(std::has_virtual_destructor_v<LASFile>);
-    LASFile file = Load(GOOD_FILE);
-    LASFile const copy = file;
-    EXPECT_EQ(copy.GetDataMatrix()[0].get(), file.GetDataMatrix()[0].get());
-    auto const* const index = file.GetDepthVector().data();
-    LASFile const moved = std::move(file);
-    EXPECT_EQ(moved.GetDepthVector().data(), index);
-    EXPECT_EQ(copy.GetDepthVector(), moved.GetDepthVector());
 }
 
 TEST(LASFile, TheSecondSectionIsTheWellSectionAndOthersGoByTwoLetters)

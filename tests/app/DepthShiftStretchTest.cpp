@@ -26,7 +26,7 @@ protected:
 };
 } // namespace
 
-TEST_F(DepthCorrectionForm, ShowsTheShiftInTheSettingsUnit)
+TEST_F(DepthCorrectionForm, ShowsAndReadsTheSettingsUnitAndNumberFormat)
 {
     DepthShiftStretch metric(1.5F, 1.25F);
     EXPECT_EQ(Edit(metric, "shift_edit")->text(), "1.50");
@@ -41,6 +41,12 @@ TEST_F(DepthCorrectionForm, ShowsTheShiftInTheSettingsUnit)
     EXPECT_NEAR(imperial.GetDepthShift_metric(), 1.5F, 3e-7F);
     Edit(imperial, "shift_edit")->setText("-100");
     EXPECT_EQ(imperial.GetDepthShift_metric(), -30.48F);
+
+    NumberFormatScope::Set({International, true});
+    Edit(metric, "shift_edit")->setText("1.234,5");
+    Edit(metric, "stretch_edit")->setText("1,002");
+    EXPECT_EQ(metric.GetDepthShift_metric(), 1234.5F);
+    EXPECT_EQ(metric.GetDepthStretchFactor(), 1.002F);
 }
 
 TEST_F(DepthCorrectionForm, UntouchedValuesComeBackExactly)
@@ -56,16 +62,6 @@ TEST_F(DepthCorrectionForm, UntouchedValuesComeBackExactly)
             EXPECT_NEAR(DepthShiftStretch(shift, 1.0F).GetDepthShift_metric(), shift, tolerance);
         }
     }
-}
-
-TEST_F(DepthCorrectionForm, ReadsTheSelectedNumberFormat)
-{
-    NumberFormatScope::Set({International, true});
-    DepthShiftStretch form(0.0F, 1.0F);
-    Edit(form, "shift_edit")->setText("1.234,5");
-    Edit(form, "stretch_edit")->setText("1,002");
-    EXPECT_EQ(form.GetDepthShift_metric(), 1234.5F);
-    EXPECT_EQ(form.GetDepthStretchFactor(), 1.002F);
 }
 
 TEST_F(DepthCorrectionForm, TextThatIsNoNumberChangesNothingAndResetIsNeutral)

@@ -13,13 +13,13 @@
 #include <QColorDialog>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTest>
 
 namespace {
 class Settings : public ::testing::Test
@@ -183,8 +183,7 @@ TEST_F(Settings, ReturnInTheMnemonicFieldInsertsAndKeepsTheDialogOpen)
     edit->setFocus();
     ASSERT_TRUE(edit->hasFocus());
     edit->setText("ARM");
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
-    QApplication::sendEvent(edit, &press);
+    QTest::keyPress(edit, Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_TRUE(Mnems(dialog).contains("ARM"));
 }

@@ -46,11 +46,8 @@ TEST(LASHeaderSection, FindsDataByExactMnemonic)
     EXPECT_EQ(section.GetData("NULL"), "second");
     EXPECT_EQ(section.size(), 2U);
     EXPECT_THROW(section.delete_element(2), std::out_of_range);
-    try {
-        (void)section.GetData("STEP");
-        FAIL() << "found STEP";
-    } catch (UndefinedMnem const& error) {
-        EXPECT_STREQ(error.what(), "Undefined Mnem: STEP");
-        EXPECT_EQ(error.GetMnemonic(), "STEP");
-    }
+    EXPECT_THAT([&] { (void)section.GetData("STEP"); },
+                testing::Throws<UndefinedMnem>(testing::AllOf(
+                    testing::Property(&UndefinedMnem::what, testing::StrEq("Undefined Mnem: STEP")),
+                    testing::Property(&UndefinedMnem::GetMnemonic, "STEP"))));
 }

@@ -10,7 +10,7 @@
 namespace test_files {
 QString Folder::Path(QString const& name) const
 {
-    return directory_.filePath(name);
+    return QDir(directory_.path()).filePath(name);
 }
 
 QString Folder::Write(QString const& name, QByteArray const& content) const

@@ -11,7 +11,7 @@ namespace test_files {
 class Folder
 {
 public:
-    /// Full path of a file of this name, which need not exist.
+    /// Full path of a file of this name, which need not exist; a full path stays as it is.
     [[nodiscard]] QString Path(QString const& name) const;
     /// Writes the file, replacing an earlier one, and returns its full path. A failure fails the test.
     QString Write(QString const& name, QByteArray const& content) const;

@@ -10,13 +10,6 @@
 #include <QFileInfo>
 
 namespace {
-void WriteFile(QString const& path, QByteArray const& content)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
-    ASSERT_EQ(file.write(content), content.size());
-}
-
 /// All entries of the folder, hidden ones too.
 QStringList Entries(test_files::Folder const& folder)
 {
@@ -36,7 +29,7 @@ TEST(TemporaryFile, MakesANewFileInAHiddenFolderAndLeavesNothingElse)
         QFileInfo const directory(QFileInfo(temporary).absolutePath());
         EXPECT_EQ(directory.absolutePath(), QDir(folder.Path(QString())).absolutePath());
         EXPECT_TRUE(directory.isHidden());
-        WriteFile(temporary, "new");
+        folder.Write(temporary, "new");
         EXPECT_FALSE(QFile::exists(folder.Path(name)));
         EXPECT_TRUE(file.MoveTemporaryFileToDestination());
     }
@@ -51,7 +44,7 @@ TEST(TemporaryFile, ReplacesAnExistingFile)
     folder.Write("a.qz4.tmp", "left behind by an earlier crash");
     {
         TemporaryFile file(path);
-        WriteFile(file.GetFullTemporaryFileName(), "new");
+        folder.Write(file.GetFullTemporaryFileName(), "new");
         EXPECT_EQ(test_files::Read(path), "old");
         EXPECT_TRUE(file.MoveTemporaryFileToDestination());
     }
@@ -73,7 +66,7 @@ TEST(TemporaryFile, AMissingOrUnfinishedFileLeavesTheOldOne)
     EXPECT_EQ(test_files::Read(path), "old");
     {
         TemporaryFile file(path);
-        WriteFile(file.GetFullTemporaryFileName(), "hal");
+        folder.Write(file.GetFullTemporaryFileName(), "hal");
     }
     EXPECT_EQ(Entries(folder), QStringList("a.qz4"));
     EXPECT_EQ(test_files::Read(path), "old");
@@ -87,7 +80,7 @@ TEST(TemporaryFile, NeverReplacesOrMakesAFolder)
     QString const path = folder.Write("b.qz4", "old");
     for (char const* name : {"a.qz4", "b.qz4", "missing/a.qz4"}) {
         TemporaryFile file(folder.Path(name));
-        WriteFile(file.GetFullTemporaryFileName(), "new");
+        folder.Write(file.GetFullTemporaryFileName(), "new");
         EXPECT_FALSE(file.MoveTemporaryFileToDestination()) << name;
     }
     EXPECT_EQ(Entries(folder), (QStringList{"a.qz4", "b.qz4", "b.qz4.tmp"}));
@@ -97,13 +90,14 @@ TEST(TemporaryFile, NeverReplacesOrMakesAFolder)
 
 TEST(TemporaryFile, UsesTheSystemsFolderWhereItCannotWrite)
 {
+    test_files::Folder const folder;
     QString temporary;
     {
         // Nobody, not even root, makes folders in /proc; and it is another volume, so the rename must fail.
         TemporaryFile file(QStringLiteral("/proc/a.qz4"));
         temporary = file.GetFullTemporaryFileName();
         EXPECT_TRUE(temporary.startsWith(QDir::tempPath())) << temporary.toStdString();
-        WriteFile(temporary, "new");
+        folder.Write(temporary, "new");
         EXPECT_FALSE(file.MoveTemporaryFileToDestination());
         EXPECT_TRUE(QFile::exists(temporary));
     }

@@ -63,17 +63,15 @@ TEST(LasLoadingThread, ReportsFailuresWithHtmlLineBreaks)
     test_files::Folder const folder;
     DisableToken const token;
     QString const missing = folder.Path("none.las");
-    std::vector<Result> results = LoadOnThread(missing, token);
-    ASSERT_EQ(results.size(), 1U);
-    EXPECT_FALSE(results[0].success);
-    EXPECT_EQ(results[0].file, nullptr);
-    EXPECT_EQ(results[0].path, missing);
-    EXPECT_EQ(results[0].message, "Exception cought while importing " + missing +
-                                      ":<BR>Error Msg: No such file or directory<BR>Filepath: " + missing);
-
-    QString const bad = folder.Write("bad.las", "~V\nVERS. 2.1 : x\n");
-    results = LoadOnThread(bad, token);
-    ASSERT_EQ(results.size(), 1U);
-    EXPECT_EQ(results[0].message, "Exception cought while importing " + bad + ":<BR>Unknown Version: 2.1");
+    for (auto const& [path, reason] :
+         {std::pair(missing, "Error Msg: No such file or directory<BR>Filepath: " + missing),
+          std::pair(folder.Write("bad.las", "~V\nVERS. 2.1 : x\n"), QString("Unknown Version: 2.1"))}) {
+        std::vector<Result> const results = LoadOnThread(path, token);
+        ASSERT_EQ(results.size(), 1U);
+        EXPECT_FALSE(results[0].success);
+        EXPECT_EQ(results[0].file, nullptr);
+        EXPECT_EQ(results[0].path, path);
+        EXPECT_EQ(results[0].message, "Exception cought while importing " + path + ":<BR>" + reason);
+    }
     EXPECT_FALSE(token.IsDisabled());
 }

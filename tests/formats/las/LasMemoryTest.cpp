@@ -8,11 +8,15 @@
 #include <QFile>
 
 namespace {
+class LasMemory : public testing::Test
+{
 #if defined(__SANITIZE_ADDRESS__) || !defined(__linux__)
-constexpr bool CAN_MEASURE = false;
-#else
-constexpr bool CAN_MEASURE = true;
+    void SetUp() override
+    {
+        GTEST_SKIP() << "the sanitizer's memory hides ours";
+    }
 #endif
+};
 
 struct Measurement
 {
@@ -53,11 +57,8 @@ QString WriteRepeated(test_files::Folder const& folder, std::string const& head,
 }
 } // namespace
 
-TEST(LasMemory, ARegularFileTakesLittleMoreThanItsNumbers)
+TEST_F(LasMemory, ARegularFileTakesLittleMoreThanItsNumbers)
 {
-    if (!CAN_MEASURE) {
-        GTEST_SKIP() << "the sanitizer's memory hides ours";
-    }
     std::size_t const rows = 100'000;
     std::size_t const columns = 40;
     test_files::Folder const folder;
@@ -83,11 +84,8 @@ TEST(LasMemory, ARegularFileTakesLittleMoreThanItsNumbers)
     }
 }
 
-TEST(LasMemory, NoFileTakesMoreThanFourTimesItsSize)
+TEST_F(LasMemory, NoFileTakesMoreThanFourTimesItsSize)
 {
-    if (!CAN_MEASURE) {
-        GTEST_SKIP() << "the sanitizer's memory hides ours";
-    }
     std::int64_t const large = 100'000'000;
     std::int64_t const medium = 20'000'000;
     std::string const one_channel =

@@ -119,20 +119,17 @@ TEST(LasNumber, AgreesWithTheStandardLibraryWithinItsRounding)
     std::mt19937_64 random(20240607);
     std::string text;
     std::vector<std::string> tokens;
+    auto const digits = [&random](std::size_t count) {
+        std::string some(count, ' ');
+        std::generate(some.begin(), some.end(), [&random] { return static_cast<char>('0' + random() % 10); });
+        return some;
+    };
     for (int i = 0; i < 400'000; ++i) {
-        auto const integer_digits = static_cast<int>(random() % 8);
-        auto const decimals = static_cast<int>(random() % 9);
+        std::string const integer = digits(random() % 8);
+        std::string const decimals = digits(random() % 9);
         std::string token = random() % 2 == 0 ? "-" : "";
-        for (int digit = 0; digit < integer_digits; ++digit) {
-            token += static_cast<char>('0' + random() % 10);
-        }
-        if (decimals > 0) {
-            token += '.';
-        }
-        for (int digit = 0; digit < decimals; ++digit) {
-            token += static_cast<char>('0' + random() % 10);
-        }
-        if (integer_digits + decimals == 0) {
+        token += integer + (decimals.empty() ? "" : "." + decimals);
+        if (integer.empty() && decimals.empty()) {
             token += '0';
         }
         text += token + (random() % 3 == 0 ? "\n" : " ");

@@ -20,7 +20,6 @@ protected:
         for (int i = 0; i < 12; ++i) {
             paths.append(folder.Write(QStringLiteral("project %1.qz4").arg(i), "x"));
         }
-        SettingsSingleton::Instance().SetRecentFiles({});
     }
     void TearDown() override { SettingsSingleton::Instance().SetRecentFiles({}); }
 

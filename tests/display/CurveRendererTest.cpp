@@ -4,12 +4,10 @@
 #include "display/CurveRenderer.h"
 
 #include "ViewBench.h"
-#include "display/CurveSupport.h"
 #include "display/DepthCurve.h"
+#include "model/ModelFixtures.h"
 
 #include <random>
-
-using namespace curve_support;
 
 namespace {
 using Points = std::vector<QPointF>;

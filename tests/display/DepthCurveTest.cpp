@@ -3,12 +3,10 @@
 
 #include "display/DepthCurve.h"
 
-#include "display/CurveSupport.h"
+#include "model/ModelFixtures.h"
 #include "model/ScaleItemParameters.h"
 
 #include <random>
-
-using namespace curve_support;
 
 namespace {
 /// Every bin of every level against the samples it stands for.

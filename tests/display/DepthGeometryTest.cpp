@@ -3,10 +3,8 @@
 
 #include "display/DepthGeometry.h"
 
-namespace {
 constexpr int INT_LEAST = std::numeric_limits<int>::min();
 constexpr int INT_GREATEST = std::numeric_limits<int>::max();
-} // namespace
 
 TEST(DepthGeometryTest, DepthToRow)
 {

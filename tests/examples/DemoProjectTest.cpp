@@ -95,10 +95,9 @@ TEST_F(DemoProject, ShowsDensityOverNeutronOnTheUsualScales)
     ASSERT_NE(view, nullptr);
     EXPECT_TRUE(view->is_visible);
     ASSERT_EQ(view->scales.size(), 2U);
-    EXPECT_FLOAT_EQ(static_cast<float>(view->scales[0]->scale.lower), 1.95F);
-    EXPECT_FLOAT_EQ(static_cast<float>(view->scales[0]->scale.upper), 2.95F);
-    EXPECT_FLOAT_EQ(static_cast<float>(view->scales[1]->scale.lower), 0.45F);
-    EXPECT_FLOAT_EQ(static_cast<float>(view->scales[1]->scale.upper), -0.15F);
+    // Stored in single precision.
+    EXPECT_EQ(view->scales[0]->scale, Interval(1.95F, 2.95F));
+    EXPECT_EQ(view->scales[1]->scale, Interval(0.45F, -0.15F));
     EXPECT_FALSE(view->fill_areas.empty());
     auto const* spinner = View<INTERMEDIATE_DATAVIEW_STRUCT>(1, "SPIN");
     ASSERT_NE(spinner, nullptr);

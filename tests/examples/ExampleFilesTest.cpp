@@ -12,14 +12,11 @@
 #include <numbers>
 
 namespace {
-QString ExampleFolder()
-{
-    return QUORREL_EXAMPLES "/las";
-}
+QString const FOLDER = QUORREL_EXAMPLES "/las";
 
 LASFile Load(char const* name)
 {
-    return LASFile((ExampleFolder() + "/" + name).toStdString());
+    return LASFile((FOLDER + "/" + name).toStdString());
 }
 
 std::vector<float> const& Column(LASFile const& file, QString const& mnemonic)
@@ -96,11 +93,11 @@ double SpinnerVelocity(std::vector<LASFile> const& passes, double top, double bo
 
 TEST(ExampleFilesTest, EveryFileLoadsAndAgreesWithItsHeader)
 {
-    QStringList const names = QDir(ExampleFolder()).entryList({"*.las"}, QDir::Files);
+    QStringList const names = QDir(FOLDER).entryList({"*.las"}, QDir::Files);
     EXPECT_EQ(names.size(), 11);
     for (QString const& name : names) {
         SCOPED_TRACE(name.toStdString());
-        LASFile const file(ExampleFolder().toStdString() + "/" + name.toStdString());
+        LASFile const file(FOLDER.toStdString() + "/" + name.toStdString());
         ASSERT_FALSE(file.GetDepthVector().empty());
         EXPECT_NEAR(file.GetDepthVector().front(), std::min(file.GetStartDepth(), file.GetStopDepth()), 1e-3);
         EXPECT_NEAR(file.GetDepthVector().back(), std::max(file.GetStartDepth(), file.GetStopDepth()), 1e-3);
@@ -234,11 +231,11 @@ TEST(ExampleFilesTest, GeneratorWritesTheseFiles)
     QTemporaryDir folder;
     ASSERT_TRUE(folder.isValid());
     ASSERT_EQ(QProcess::execute(QUORREL_EXAMPLE_GENERATOR, {folder.path()}), 0);
-    QStringList const names = QDir(ExampleFolder()).entryList({"*.las"}, QDir::Files);
+    QStringList const names = QDir(FOLDER).entryList({"*.las"}, QDir::Files);
     ASSERT_EQ(names, QDir(folder.path()).entryList({"*.las"}, QDir::Files));
     for (QString const& name : names) {
         SCOPED_TRACE(name.toStdString());
-        LASFile const kept(ExampleFolder().toStdString() + "/" + name.toStdString());
+        LASFile const kept(FOLDER.toStdString() + "/" + name.toStdString());
         LASFile const made(folder.filePath(name).toStdString());
         ASSERT_EQ(kept.GetDepthVector(), made.GetDepthVector());
         ASSERT_EQ(kept.GetDataMatrix().size(), made.GetDataMatrix().size());

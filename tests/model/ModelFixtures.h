@@ -62,6 +62,17 @@ inline std::shared_ptr<StorageDataChannel> MakeChannel(std::vector<double> const
                                                 HeaderRow("GR", "gAPI", "", ""), identifier);
 }
 
+/// `size` samples at first, first + step, ...
+inline std::shared_ptr<StorageDataChannel> MakeRegularChannel(std::size_t size, double first, double step,
+                                                              std::function<float(std::size_t)> const& sample)
+{
+    Samples samples(size);
+    for (std::size_t i = 0; i < size; ++i) {
+        samples[i] = sample(i);
+    }
+    return MakeChannel(Depths(first, step, size), samples);
+}
+
 inline Samples Values(BaseDataChannel const& channel)
 {
     return Samples(channel.begin(), channel.end());

@@ -56,14 +56,15 @@ int main(int argc, char** argv)
     if (std::strcmp(action, "crash") == 0) {
         std::_Exit(3);
     }
-    std::cout << "locale " << QLocale().name().toStdString() << ' '
-              << settings.GetLocale().name().toStdString() << "\nseparators "
-              << QString(settings.GetDecimalSeparator()).toStdString()
-              << QString(settings.GetThousandsSeparator()).toStdString() << "\nequation "
-              << settings.GetMathEquation().toStdString() << "\ncolor "
-              << settings.GetBackgroundColor().name(QColor::HexArgb).toStdString() << "\ngeometry "
-              << settings.GetFrameGeometry().toHex().toStdString() << "\nrecent "
-              << settings.GetRecentFiles().join('|').toStdString() << "\nselection "
-              << settings.GetDlisChannelSelection().value("frame/1 key").join('|').toStdString() << '\n';
+    auto const print = [](char const* name, QString const& text) {
+        std::cout << name << ' ' << text.toStdString() << '\n';
+    };
+    print("locale", QLocale().name() + ' ' + settings.GetLocale().name());
+    print("separators", QString(settings.GetDecimalSeparator()) + settings.GetThousandsSeparator());
+    print("equation", settings.GetMathEquation());
+    print("color", settings.GetBackgroundColor().name(QColor::HexArgb));
+    print("geometry", settings.GetFrameGeometry().toHex());
+    print("recent", settings.GetRecentFiles().join('|'));
+    print("selection", settings.GetDlisChannelSelection().value("frame/1 key").join('|'));
     return 0;
 }

@@ -11,21 +11,17 @@
 #include <QTest>
 
 namespace {
-QColor const red(Qt::red);
-QColor const green(Qt::green);
-QColor const blue(Qt::blue);
-
 /// Three columns of 100 px with margins of 6 (0.02 of 300), 1000 to 1100 m over 201 rows: two rows a metre.
 class ZoneViewTest : public view_bench::BenchTest
 {
 protected:
     ZoneViewTest()
     {
-        perforations = {Zone({1010, 1020}, "", red)};
+        perforations = {Zone({1010, 1020}, "", Qt::red)};
         ZoneTrack track("Geology");
-        track.SetZones({Zone({1080, 1050}, "Sand", green), Zone({900, 1000.5}, "", blue)});
+        track.SetZones({Zone({1080, 1050}, "Sand", Qt::green), Zone({900, 1000.5}, "", Qt::blue)});
         tracks = {track};
-        interpretation = {Zone({1000, 1100}, "Z1", red), Zone({1040, 1041}, "Z2", blue)};
+        interpretation = {Zone({1000, 1100}, "Z1", Qt::red), Zone({1040, 1041}, "Z2", Qt::blue)};
         bench.context.perforation_zones = &perforations;
         bench.context.zone_tracks = &tracks;
         bench.context.interpretation_zones = &interpretation;
@@ -60,9 +56,9 @@ TEST_F(ZoneViewTest, ColumnsStandSideBySide)
     EXPECT_EQ(boxes[2].at(0).area, QRect(206, 0, 88, 200));
 
     pixels::Expect(image, Qt::black, {{5, 30}, {94, 30}, {50, 19}, {50, 40}, {150, 1}});
-    pixels::Expect(image, red, {{6, 30}, {93, 30}});
-    pixels::Expect(image, green, {{110, 110}});
-    pixels::Expect(image, blue, {{150, 0}, {210, 81}});
+    pixels::Expect(image, Qt::red, {{6, 30}, {93, 30}});
+    pixels::Expect(image, Qt::green, {{110, 110}});
+    pixels::Expect(image, Qt::blue, {{150, 0}, {210, 81}});
 }
 
 TEST_F(ZoneViewTest, StatusTextNamesColumnAndDepths)
@@ -100,16 +96,16 @@ TEST_F(ZoneViewTest, TheZoneUnderTheMouseIsFramed)
     view_bench::Drag(view, {50, 30});
     EXPECT_EQ(view->grab().toImage().pixelColor(7, 25), QColor(127, 255, 165));
     view_bench::Drag(view, {50, 60});
-    EXPECT_EQ(view->grab().toImage().pixelColor(7, 25), red);
+    EXPECT_EQ(view->grab().toImage().pixelColor(7, 25), Qt::red);
     EXPECT_EQ(view->GetRenderCount(), renders);
 }
 
 TEST_F(ZoneViewTest, FaultyDepthsAreSurvived)
 {
-    interpretation = {Zone({NAN, 1050}, "a", red), Zone({1050, NAN}, "b", red),
-                      Zone({-INFINITY, INFINITY}, "c", blue), Zone({-1e300, 1e300}, "d", green)};
+    interpretation = {Zone({NAN, 1050}, "a", Qt::red), Zone({1050, NAN}, "b", Qt::red),
+                      Zone({-INFINITY, INFINITY}, "c", Qt::blue), Zone({-1e300, 1e300}, "d", Qt::green)};
     view->ForceRedraw();
-    EXPECT_EQ(view->grab().toImage().pixelColor(210, 10), green);
+    EXPECT_EQ(view->grab().toImage().pixelColor(210, 10), Qt::green);
     for (Interval const& interval : {Interval(NAN, NAN), Interval(5, 5), Interval(), Interval(1100, 1000)}) {
         pixels::Paint({300, 201}, Qt::white,
                       [&](QPainter& painter) { view->RenderToPainter(painter, interval, 300); });

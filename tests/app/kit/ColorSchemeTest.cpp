@@ -18,17 +18,12 @@ TEST(ColorScheme, FollowsTheApplicationPalette)
     QObject::connect(&scheme, &ColorScheme::Changed_Signal, [&changes] { ++changes; });
     EXPECT_FALSE(ColorScheme::IsDark());
 
-    QApplication::setPalette(dark);
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(ColorScheme::IsDark());
-    EXPECT_EQ(changes, 1);
-
-    QApplication::setPalette(QPalette(QColor(20, 20, 60))); // another dark palette is no change of scheme
-    QCoreApplication::processEvents();
-    EXPECT_EQ(changes, 1);
-
-    QApplication::setPalette(light);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(ColorScheme::IsDark());
-    EXPECT_EQ(changes, 2);
+    for (auto const& [palette, is_dark, count] :
+         {std::tuple(dark, true, 1), std::tuple(QPalette(QColor(20, 20, 60)), true, 1), // no change of scheme
+          std::tuple(light, false, 2)}) {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(ColorScheme::IsDark(), is_dark);
+        EXPECT_EQ(changes, count);
+    }
 }

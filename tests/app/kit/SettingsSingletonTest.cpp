@@ -123,6 +123,7 @@ TEST_F(SettingsProcess, ResetEmptiesTheStoreUntilExit)
     EXPECT_EQ(output["equation"], "A+B");
     EXPECT_EQ(output["locale"], "en_GB en_GB");
     EXPECT_EQ(Stored().size(), 18) << "the unknown one is gone";
+    EXPECT_TRUE(Stored().contains("math_equation=A+B"));
 }
 
 TEST_F(SettingsProcess, EachSelectionHasItsLocaleAndSeparators)

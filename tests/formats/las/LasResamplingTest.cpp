@@ -5,9 +5,7 @@
 
 using Floats = std::vector<float>;
 
-namespace {
 constexpr float NONE = -999.25F;
-}
 
 TEST(LasResampling, UniformDepthsSumUpInDoubleAndAreStoredInSingle)
 {

@@ -74,6 +74,39 @@ TEST(DirectionalSurveyData, AgreesWithReferenceWells)
     EXPECT_EQ(compared, 6 * (40 + 43));
 }
 
+TEST(DirectionalSurveyData, AgreesWithPublishedSurvey)
+{
+    QUORREL_SKIP_WITHOUT_SAMPLES();
+    QStringList const files = test_files::SampleFiles("deviation", {"*deviation.csv"});
+    ASSERT_EQ(files.size(), 1);
+    std::vector<DirectionalSurveyItem> stations;
+    std::vector<std::vector<double>> rows;
+    for (QByteArray const& line : test_files::Read(files[0]).split('\n').mid(1)) {
+        QList<QByteArray> const cells = line.split(',');
+        if (cells.size() == 7) {
+            rows.emplace_back();
+            for (QByteArray const& cell : cells) {
+                rows.back().push_back(cell.trimmed().toDouble());
+            }
+            stations.emplace_back(rows.back()[0], rows.back()[1], rows.back()[2]);
+        }
+    }
+    ASSERT_GT(rows.size(), 70U);
+    DirectionalSurveyData const survey =
+        Survey(stations, {.tvd = rows[0][3], .ns = rows[0][4], .ew = rows[0][5]});
+    for (std::size_t i = 1; i < rows.size(); ++i) {
+        WellTrajectoryItem const& item = survey.GetWellTrajectoryData()[i];
+        // Its angles are rounded to hundredths of a degree, its positions to centimetres.
+        EXPECT_NEAR(item.tvd, rows[i][3], 0.3) << "row " << i;
+        EXPECT_NEAR(item.ns, rows[i][4], 0.3) << "row " << i;
+        EXPECT_NEAR(item.ew, rows[i][5], 0.3) << "row " << i;
+        // The last two rows are projections, whose printed doglegs do not follow from their own angles.
+        if (i + 2 < rows.size()) {
+            EXPECT_NEAR(item.dls, rows[i][6], 0.02) << "row " << i;
+        }
+    }
+}
+
 TEST(DirectionalSurveyData, FollowsCirclesAndStraightLines)
 {
     auto const quarter = static_cast<float>(150 * pi);

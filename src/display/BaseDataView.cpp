@@ -13,6 +13,7 @@
 #include "well/DirectionalSurveyData.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -401,10 +402,10 @@ StatusMessage BaseDataView::GetStatusMessage(int x, int y) const
 
 // --- painting
 
-void BaseDataView::paintEvent(QPaintEvent* /*event*/)
+void BaseDataView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    DrawCachedPixmap(painter, [this](QPainter& pixmap_painter) {
+    DrawCachedPixmap(painter, event->region(), [this](QPainter& pixmap_painter) {
         RenderToPainter(pixmap_painter, parameters_->GetViewDepthMetric(), Quorrel::DPI_Y, true);
     });
     RenderMouseCursor(painter);

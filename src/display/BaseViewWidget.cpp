@@ -210,7 +210,8 @@ void BaseViewWidget::resizeEvent(QResizeEvent* event)
     update();
 }
 
-void BaseViewWidget::DrawCachedPixmap(QPainter& painter, std::function<void(QPainter&)> const& render)
+void BaseViewWidget::DrawCachedPixmap(QPainter& painter, QRegion const& region,
+                                      std::function<void(QPainter&)> const& render)
 {
     if (width() < 1 || height() < 1) {
         return;
@@ -238,28 +239,37 @@ void BaseViewWidget::DrawCachedPixmap(QPainter& painter, std::function<void(QPai
             QMetaObject::invokeMethod(this, &BaseViewWidget::ReportRestingMouse, Qt::QueuedConnection);
         }
     }
-    painter.drawPixmap(0, 0, *cached_pixmap_);
+    // Part by part, for under a clip of several rectangles the raster engine draws span by span and waits for
+    // its thread pool, where one rectangle is simply copied.
+    for (QRect const& part : region) {
+        painter.setClipRect(part);
+        painter.drawPixmap(0, 0, *cached_pixmap_);
+    }
+    painter.setClipping(false);
 }
 
 namespace {
-/// A line down column `x`, in pieces so short that the raster engine draws them at once: it hands a long
-/// column, which is one span per row, to its thread pool, and waiting for that costs more than the drawing.
+// The lines of the cross-hair are filled in pieces that the raster engine draws at once: as lines they would
+// be one span per pixel, and long runs of spans go to its thread pool, where waiting costs more than drawing.
 void DrawColumnLine(QPainter& painter, int x, int height)
 {
     constexpr int piece = 64;
     for (int top = 0; top < height; top += piece) {
-        painter.drawLine(x, top, x, std::min(top + piece, height) - 1);
+        painter.fillRect(x, top, 1, std::min(piece, height - top), Qt::white);
     }
+}
+
+void DrawRowLine(QPainter& painter, int y, int width)
+{
+    painter.fillRect(0, y, width, 1, Qt::white);
 }
 } // namespace
 
 void BaseViewWidget::RenderMouseCursor(QPainter& painter) const
 {
-    QPen const saved_pen = painter.pen();
     painter.setCompositionMode(QPainter::RasterOp_SourceAndNotDestination);
-    painter.setPen(Qt::white);
     if (cursor_y_ >= 0) {
-        painter.drawLine(0, cursor_y_, width() - 1, cursor_y_);
+        DrawRowLine(painter, cursor_y_, width());
     }
     if (cursor_x_ >= 0) {
         DrawColumnLine(painter, cursor_x_, height());
@@ -271,10 +281,9 @@ void BaseViewWidget::RenderMouseCursor(QPainter& painter) const
         DrawColumnLine(painter, selection_start_x_, height());
     }
     if (has_rows) {
-        painter.drawLine(0, selection_start_y_, width() - 1, selection_start_y_);
+        DrawRowLine(painter, selection_start_y_, width());
     }
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.setPen(saved_pen);
 
     bool const horizontal = parameters_->GetHorizontalZoomChecked() && selection_start_x_ >= 0;
     bool const vertical = parameters_->GetVerticalZoomChecked();

@@ -94,9 +94,10 @@ protected:
         return press_x_ >= 0 || selection_start_x_ >= 0 || selection_start_y_ >= 0;
     }
 
-    /// Draws the cached pixmap at the origin; before that, when it is stale or has another size than the
-    /// widget, fills it with the background colour and calls `render` on it.
-    void DrawCachedPixmap(QPainter& painter, std::function<void(QPainter&)> const& render);
+    /// Draws those parts of the cached pixmap that `region` asks for; before that, when it is stale or has
+    /// another size than the widget, fills it with the background colour and calls `render` on it.
+    void DrawCachedPixmap(QPainter& painter, QRegion const& region,
+                          std::function<void(QPainter&)> const& render);
     /// Whether what is drawn over the pixmap at this moment reaches beyond the cross-hair, so that a move of
     /// the mouse repaints the whole view instead of the lines that change.
     [[nodiscard]] virtual bool DrawsMoreThanCrossHair() const;

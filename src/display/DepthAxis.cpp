@@ -8,6 +8,7 @@
 #include "display/ColumnContext.h"
 #include "display/DepthAxisRenderer.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 DepthAxis::DepthAxis(QWidget* parent, QString const& name, ColumnContext const& context)
@@ -31,10 +32,10 @@ QSize DepthAxis::sizeHint() const
     return {static_cast<int>(Quorrel::DPI_Y * 0.4), 50};
 }
 
-void DepthAxis::paintEvent(QPaintEvent* /*event*/)
+void DepthAxis::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    DrawCachedPixmap(painter, [this](QPainter& pixmap_painter) {
+    DrawCachedPixmap(painter, event->region(), [this](QPainter& pixmap_painter) {
         DepthAxisRenderer renderer;
         renderer.RenderToPainter(pixmap_painter, parameters_->GetViewDepthMetric(), Quorrel::DPI_Y, 1.0,
                                  Qt::lightGray, true);

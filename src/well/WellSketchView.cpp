@@ -10,6 +10,7 @@
 #include "well/SketchDrawing.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -73,10 +74,10 @@ void WellSketchView::RenderBoundingBox(QPainter& painter) const
     painter.setPen(saved_pen);
 }
 
-void WellSketchView::paintEvent(QPaintEvent* /*event*/)
+void WellSketchView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    DrawCachedPixmap(painter, [this](QPainter& pixmap_painter) {
+    DrawCachedPixmap(painter, event->region(), [this](QPainter& pixmap_painter) {
         // The item under the mouse is found again among the new areas.
         bool const had_item = GetItemText() != nullptr;
         RenderToPainter(pixmap_painter, parameters_->GetViewDepthMetric(), Quorrel::DPI_X, Quorrel::DPI_Y,

@@ -9,6 +9,7 @@
 #include "well/DirectionalSurveyData.h"
 
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -170,10 +171,10 @@ void ZoneView::RenderSelection(QPainter& painter) const
     painter.setPen(saved_pen);
 }
 
-void ZoneView::paintEvent(QPaintEvent* /*event*/)
+void ZoneView::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    DrawCachedPixmap(painter, [this](QPainter& pixmap_painter) {
+    DrawCachedPixmap(painter, event->region(), [this](QPainter& pixmap_painter) {
         RenderToPainter(pixmap_painter, parameters_->GetViewDepthMetric(), pixmap_painter.window().width());
     });
     RenderSelection(painter);

@@ -6,6 +6,7 @@
 #include "display/BaseViewWidget.h"
 #include "display/ColumnContext.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 /// A track filled with one colour, whose status text is the column of the mouse.
@@ -25,10 +26,11 @@ public:
     QColor color = Qt::black;
 
 protected:
-    void paintEvent(QPaintEvent* /*event*/) override
+    void paintEvent(QPaintEvent* event) override
     {
         QPainter painter(this);
-        DrawCachedPixmap(painter, [this](QPainter& pixmap) { pixmap.fillRect(rect(), color); });
+        DrawCachedPixmap(painter, event->region(),
+                         [this](QPainter& pixmap) { pixmap.fillRect(rect(), color); });
         RenderMouseCursor(painter);
     }
 };

@@ -69,17 +69,23 @@ void WellSketchRenderer::DrawPackerElement(QPainter& painter, WellComponent cons
     if (!(width > 0)) {
         return;
     }
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(scheme.lines, PACKER_PEN));
-    OnBothSides([&](double side) {
+    auto const box = [&](double side) {
         double const x = side < 0 ? geometry.center - outer_radius : geometry.center + inner_radius;
-        QRectF const box(x, geometry.top, width, geometry.height);
-        painter.fillRect(box, Qt::red);
-        Quorrel::DrawCross(painter, box);
-        CreateComponentBoundingBox(component, x, width, geometry.top, geometry.height);
+        return QRectF(x, geometry.top, width, geometry.height);
+    };
+    DrawSymbol(
+        painter, component, geometry, box(-1) | box(1),
+        [&](QPainter& symbol) {
+            symbol.setPen(QPen(scheme.lines, PACKER_PEN));
+            OnBothSides([&](double side) {
+                symbol.fillRect(box(side), Qt::red);
+                Quorrel::DrawCross(symbol, box(side));
+            });
+        },
+        inner_radius, outer_radius);
+    OnBothSides([&](double side) {
+        CreateComponentBoundingBox(component, box(side).x(), width, geometry.top, geometry.height);
     });
-    painter.restore();
 }
 
 void WellSketchRenderer::DrawPerforation(QPainter& painter, WellComponent const& component,
@@ -120,19 +126,22 @@ void WellSketchRenderer::DrawPerforation(QPainter& painter, WellComponent const&
     int const first = step > 0 ? std::max(Quorrel::TruncateToInt((-charge - g.top) / step), 0) : 0;
     int const last =
         step > 0 ? std::min(Quorrel::TruncateToInt((height_ - g.top) / step), count - 1) : count - 1;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(charge_outline, CHARGE_PEN));
-    painter.setBrush(charge_color);
-    for (int i = first; i <= last; ++i) {
-        double const y = g.top + i * step;
-        OnBothSides([&](double side) {
-            double const x = g.center + side * base;
-            Quorrel::DrawShape(painter, {QPointF(x, y), QPointF(x, y + charge),
-                                         QPointF(g.center + side * point, y + charge / 2)});
-        });
-    }
-    painter.restore();
+    double const reach = std::max(base, point);
+    DrawSymbol(
+        painter, component, g, QRectF(g.center - reach, g.top, 2 * reach, g.height),
+        [&](QPainter& symbol) {
+            symbol.setPen(QPen(charge_outline, CHARGE_PEN));
+            symbol.setBrush(charge_color);
+            for (int i = first; i <= last; ++i) {
+                double const y = g.top + i * step;
+                OnBothSides([&](double side) {
+                    double const x = g.center + side * base;
+                    Quorrel::DrawShape(symbol, {QPointF(x, y), QPointF(x, y + charge),
+                                                QPointF(g.center + side * point, y + charge / 2)});
+                });
+            }
+        },
+        point, charge, first, last);
     CreateComponentBoundingBox(component, g.center - point, point - base, g.top, g.height);
     CreateComponentBoundingBox(component, g.center + base, point - base, g.top, g.height);
 }
@@ -156,15 +165,18 @@ WellSketchRenderer::Geometry WellSketchRenderer::DrawPocket(QPainter& painter, W
     double const wall = g.center + side * g.half_width;
     double const face = wall + side * width;
     double const bevel = std::min(POCKET_BEVEL, g.height / 2);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(scheme.lines, 1));
-    painter.setBrush(scheme.component);
-    Quorrel::DrawShape(painter, {QPointF(wall, g.top), QPointF(face, g.top + bevel),
-                                 QPointF(face, g.Bottom() - bevel), QPointF(wall, g.Bottom())});
-    Quorrel::DrawStroke(painter, QPointF(wall, g.top), QPointF(wall, g.Bottom()));
-    painter.restore();
-    CreateComponentBoundingBox(component, std::min(wall, face), width, g.top, g.height);
+    QRectF const extent(std::min(wall, face), g.top, width, g.height);
+    DrawSymbol(
+        painter, component, g, extent,
+        [&](QPainter& symbol) {
+            symbol.setPen(QPen(scheme.lines, 1));
+            symbol.setBrush(scheme.component);
+            Quorrel::DrawShape(symbol, {QPointF(wall, g.top), QPointF(face, g.top + bevel),
+                                        QPointF(face, g.Bottom() - bevel), QPointF(wall, g.Bottom())});
+            Quorrel::DrawStroke(symbol, QPointF(wall, g.top), QPointF(wall, g.Bottom()));
+        },
+        side, width);
+    CreateComponentBoundingBox(component, extent.x(), width, g.top, g.height);
     return g;
 }
 
@@ -185,9 +197,12 @@ void WellSketchRenderer::DrawPDHG(QPainter& painter, WellComponent const& compon
     double const od = tubing->GetNonNullOd();
     auto const* const casing = FindCasingAbove(component);
     double const reach = casing != nullptr ? (od + 0.8 * (casing->GetNonNullId() - od)) / 2 : (od + 1) / 2;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(Qt::green, GAUGE_PEN));
-    Quorrel::DrawStroke(painter, QPointF(g.right, g.Middle()), QPointF(g.center + Pixels(reach), g.Middle()));
-    painter.restore();
+    double const tip = g.center + Pixels(reach);
+    DrawSymbol(
+        painter, component, g, QRectF(std::min(g.right, tip), g.Middle() - 1, std::abs(tip - g.right), 2),
+        [&](QPainter& symbol) {
+            symbol.setPen(QPen(Qt::green, GAUGE_PEN));
+            Quorrel::DrawStroke(symbol, QPointF(g.right, g.Middle()), QPointF(tip, g.Middle()));
+        },
+        tip - g.right);
 }

@@ -92,6 +92,10 @@ void WellSketchRenderer::RenderToPainter(QPainter& painter, Interval const& inte
     }
     pixels_per_inch_ = width_ / (largest_od * WINDOW_TO_PIPE);
 
+    if (std::tuple look{dpi_x, dpi_y, scheme}; look != symbols_look_) {
+        symbols_.Clear();
+        symbols_look_ = std::move(look);
+    }
     painter.save();
     painter.setPen(scheme.lines);
     for (PipeString const& string : pipe_strings_.GetPipeStringVector()) {

@@ -6,6 +6,7 @@
 #include "display/BaseRenderer.h"
 #include "well/PipeStringData.h"
 #include "well/PolygonBoundingBox.h"
+#include "well/SketchSymbols.h"
 #include "well/WellComponent.h"
 #include "well/WellComponentBoundingBox.h"
 
@@ -16,6 +17,7 @@
 #include <QRectF>
 #include <QString>
 
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -46,6 +48,8 @@ public:
         QColor cement;
         Qt::BrushStyle cement_pattern = Qt::SolidPattern;
         Qt::BrushStyle formation_pattern = Qt::SolidPattern;
+
+        bool operator==(ColorScheme const&) const = default;
     };
     [[nodiscard]] static ColorScheme ScreenScheme();
     [[nodiscard]] static ColorScheme PrintScheme();
@@ -115,6 +119,18 @@ private:
 
     void DrawComponent(QPainter& painter, WellComponent const& component, Interval const& interval,
                        double dpi_x, double dpi_y, ColorScheme const& scheme);
+    /// Draws the symbol of a component within `extent`. Besides its type, the width and height of its
+    /// geometry and the scheme, `sizes` tell of everything that its looks depend on; equal symbols are drawn
+    /// once.
+    template <typename Draw, typename... Sizes>
+    void DrawSymbol(QPainter& painter, WellComponent const& component, Geometry const& geometry,
+                    QRectF const& extent, Draw const& draw, Sizes... sizes)
+    {
+        symbols_.Draw(painter,
+                      {static_cast<double>(component.type), geometry.half_width, geometry.height,
+                       static_cast<double>(sizes)...},
+                      extent, draw);
+    }
 
     // strings
     void DrawPipeString(QPainter& painter, PipeString const& string, Interval const& interval, double dpi_x,
@@ -205,6 +221,9 @@ private:
     void CreateMirroredPolygonBoundingBox(QString const& description, Interval const& depth,
                                           Outlines const& outlines);
 
+    SketchSymbols symbols_;
+    /// With what the symbols kept were drawn: dots per inch and colours.
+    std::tuple<double, double, ColorScheme> symbols_look_;
     int minimum_component_height_ = 0; ///< pixels
     double pixels_per_inch_ = 0;       ///< of pipe diameter
     PipeStringData const& pipe_strings_;

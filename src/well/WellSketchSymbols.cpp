@@ -10,6 +10,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 namespace {
 constexpr double PLUG_CROSS_PEN = 2;
@@ -18,25 +19,6 @@ constexpr double SLEEVE_PEN = 4;
 constexpr double SLEEVE_PORT = 5; ///< diameter in pixels
 constexpr double SIN_45 = 0.7071067811865475;
 constexpr int BUBBLES = 7;
-
-/// Keeps the painter's state; symbols are drawn smoothly, without outline.
-class SymbolPainter
-{
-public:
-    SymbolPainter(QPainter& painter, QBrush const& brush) : painter_(painter)
-    {
-        painter_.save();
-        painter_.setRenderHint(QPainter::Antialiasing);
-        painter_.setPen(Qt::NoPen);
-        painter_.setBrush(brush);
-    }
-    ~SymbolPainter() { painter_.restore(); }
-    SymbolPainter(SymbolPainter const&) = delete;
-    SymbolPainter& operator=(SymbolPainter const&) = delete;
-
-private:
-    QPainter& painter_;
-};
 } // namespace
 
 void WellSketchRenderer::DrawPlug(QPainter& painter, WellComponent const& component, Interval const& interval,
@@ -47,10 +29,11 @@ void WellSketchRenderer::DrawPlug(QPainter& painter, WellComponent const& compon
         return;
     }
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
-    SymbolPainter const symbol(painter, Qt::NoBrush);
-    painter.fillRect(g.Rect(), scheme.component);
-    painter.setPen(QPen(Qt::red, PLUG_CROSS_PEN, Qt::SolidLine, Qt::RoundCap));
-    Quorrel::DrawCross(painter, g.Rect().adjusted(1, 1, -1, -1));
+    DrawSymbol(painter, component, g, g.Rect(), [&](QPainter& symbol) {
+        symbol.fillRect(g.Rect(), scheme.component);
+        symbol.setPen(QPen(Qt::red, PLUG_CROSS_PEN, Qt::SolidLine, Qt::RoundCap));
+        Quorrel::DrawCross(symbol, g.Rect().adjusted(1, 1, -1, -1));
+    });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -66,11 +49,14 @@ void WellSketchRenderer::DrawFish(QPainter& painter, WellComponent const& compon
     double const neck = g.top + g.height / 3;
     double const notch = g.top + g.height / 9;
     double const belly = neck + (g.Bottom() - neck) * 0.4;
-    SymbolPainter const symbol(painter, Qt::green);
-    Quorrel::DrawShape(painter, {QPointF(g.center, neck), QPointF(g.center - fin, g.top),
-                                 QPointF(g.center, notch), QPointF(g.center + fin, g.top)});
-    Quorrel::DrawShape(painter, {QPointF(g.center, neck), QPointF(g.right, belly),
-                                 QPointF(g.center, g.Bottom()), QPointF(g.left, belly)});
+    QRectF const extent = g.Rect() | QRectF(g.center - fin, g.top, 2 * fin, g.height);
+    DrawSymbol(painter, component, g, extent, [&](QPainter& symbol) {
+        symbol.setBrush(Qt::green);
+        Quorrel::DrawShape(symbol, {QPointF(g.center, neck), QPointF(g.center - fin, g.top),
+                                    QPointF(g.center, notch), QPointF(g.center + fin, g.top)});
+        Quorrel::DrawShape(symbol, {QPointF(g.center, neck), QPointF(g.right, belly),
+                                    QPointF(g.center, g.Bottom()), QPointF(g.left, belly)});
+    });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -83,11 +69,13 @@ void WellSketchRenderer::DrawRestriction(QPainter& painter, WellComponent const&
     }
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
     double const bore = 2 * g.half_width;
-    SymbolPainter const symbol(painter, scheme.component);
-    Quorrel::DrawShape(painter, {QPointF(g.left, g.top), QPointF(g.left + 0.3 * bore, g.Middle()),
-                                 QPointF(g.left, g.Bottom())});
-    Quorrel::DrawShape(painter, {QPointF(g.right, g.top), QPointF(g.right - 0.15 * bore, g.Middle()),
-                                 QPointF(g.right, g.Bottom())});
+    DrawSymbol(painter, component, g, g.Rect(), [&](QPainter& symbol) {
+        symbol.setBrush(scheme.component);
+        Quorrel::DrawShape(symbol, {QPointF(g.left, g.top), QPointF(g.left + 0.3 * bore, g.Middle()),
+                                    QPointF(g.left, g.Bottom())});
+        Quorrel::DrawShape(symbol, {QPointF(g.right, g.top), QPointF(g.right - 0.15 * bore, g.Middle()),
+                                    QPointF(g.right, g.Bottom())});
+    });
     CreateComponentBoundingBox(component, g.left, bore, g.top, g.height);
 }
 
@@ -99,12 +87,14 @@ void WellSketchRenderer::DrawSafetyValve(QPainter& painter, WellComponent const&
         return;
     }
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
-    SymbolPainter const symbol(painter, scheme.component);
-    Quorrel::DrawOval(painter, g.Rect());
-    painter.setPen(QPen(Qt::red, VALVE_LINE_PEN));
     QPointF const middle(g.center, g.Middle());
     QPointF const end(g.half_width * SIN_45, g.height / 2 * SIN_45);
-    Quorrel::DrawStroke(painter, middle - end, middle + end);
+    DrawSymbol(painter, component, g, g.Rect(), [&](QPainter& symbol) {
+        symbol.setBrush(scheme.component);
+        Quorrel::DrawOval(symbol, g.Rect());
+        symbol.setPen(QPen(Qt::red, VALVE_LINE_PEN));
+        Quorrel::DrawStroke(symbol, middle - end, middle + end);
+    });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -118,14 +108,16 @@ void WellSketchRenderer::DrawSleeve(QPainter& painter, WellComponent const& comp
     // Half an inch wider than the pipe it is part of.
     Geometry const g =
         ComponentCalculations(component, pipe->GetNonNullOd() + 0.5, width_, height_, interval);
-    SymbolPainter const symbol(painter, Qt::NoBrush);
-    painter.setPen(QPen(scheme.lines, SLEEVE_PEN));
-    Quorrel::DrawFrame(painter, g.Rect());
-    painter.setPen(QPen(scheme.lines, 1));
-    for (double const share : {0.2, 0.5, 0.8}) {
-        painter.drawEllipse(QPointF(g.left + share * 2 * g.half_width, g.Middle()), SLEEVE_PORT / 2,
-                            SLEEVE_PORT / 2);
-    }
+    QRectF const extent = g.Rect() | QRectF(g.left, g.Middle() - SLEEVE_PORT / 2, 1, SLEEVE_PORT);
+    DrawSymbol(painter, component, g, extent, [&](QPainter& symbol) {
+        symbol.setPen(QPen(scheme.lines, SLEEVE_PEN));
+        Quorrel::DrawFrame(symbol, g.Rect());
+        symbol.setPen(QPen(scheme.lines, 1));
+        for (double const share : {0.2, 0.5, 0.8}) {
+            symbol.drawEllipse(QPointF(g.left + share * 2 * g.half_width, g.Middle()), SLEEVE_PORT / 2,
+                               SLEEVE_PORT / 2);
+        }
+    });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -139,14 +131,16 @@ void WellSketchRenderer::DrawNipple(QPainter& painter, WellComponent const& comp
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
     double const width = 0.1 * 2 * g.half_width;
     double const notch = g.height / 6;
-    SymbolPainter const symbol(painter, scheme.component);
-    OnBothSides([&](double side) {
-        double const wall = g.center + side * g.half_width;
-        double const face = wall - side * width;
-        Quorrel::DrawShape(
-            painter, {QPointF(wall, g.top), QPointF(face, g.top), QPointF(face, g.Middle() - notch),
-                      QPointF(wall - side * width * 0.35, g.Middle()), QPointF(face, g.Middle() + notch),
-                      QPointF(face, g.Bottom()), QPointF(wall, g.Bottom())});
+    DrawSymbol(painter, component, g, g.Rect(), [&](QPainter& symbol) {
+        symbol.setBrush(scheme.component);
+        OnBothSides([&](double side) {
+            double const wall = g.center + side * g.half_width;
+            double const face = wall - side * width;
+            Quorrel::DrawShape(
+                symbol, {QPointF(wall, g.top), QPointF(face, g.top), QPointF(face, g.Middle() - notch),
+                         QPointF(wall - side * width * 0.35, g.Middle()), QPointF(face, g.Middle() + notch),
+                         QPointF(face, g.Bottom()), QPointF(wall, g.Bottom())});
+        });
     });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
@@ -162,19 +156,23 @@ void WellSketchRenderer::DrawLeak(QPainter& painter, WellComponent const& compon
     Geometry const g = ComponentCalculations(component, pipe->GetNonNullId(), width_, height_, interval);
     double const radius = g.half_width;
     double const start = Row(depth, interval);
-    SymbolPainter const symbol(painter, Qt::NoBrush);
-    painter.setPen(QPen(scheme.lines, 1));
-    QRectF bubbles;
+    std::array<QRectF, BUBBLES> bubbles;
+    QRectF extent;
     double y = start;
     for (int i = 0; i < BUBBLES; ++i) {
         double const diameter = radius * (0.1 + 0.05 * i);
         double const x = g.left + 0.03 * radius + 0.05 * radius * i + (i % 2 == 1 ? 0.6 * diameter : 0.0);
-        QRectF const bubble(x, y - diameter, diameter, diameter);
-        painter.drawEllipse(bubble);
-        bubbles = bubbles.united(bubble);
+        bubbles[static_cast<std::size_t>(i)] = QRectF(x, y - diameter, diameter, diameter);
+        extent |= bubbles[static_cast<std::size_t>(i)];
         y -= 0.8 * diameter;
     }
-    CreateComponentBoundingBox(component, bubbles.x(), bubbles.width(), bubbles.y(), bubbles.height());
+    DrawSymbol(painter, component, g, extent, [&](QPainter& symbol) {
+        symbol.setPen(QPen(scheme.lines, 1));
+        for (QRectF const& bubble : bubbles) {
+            symbol.drawEllipse(bubble);
+        }
+    });
+    CreateComponentBoundingBox(component, extent.x(), extent.width(), extent.y(), extent.height());
 }
 
 void WellSketchRenderer::DrawCut(QPainter& painter, WellComponent const& component, Interval const& interval,
@@ -189,13 +187,18 @@ void WellSketchRenderer::DrawCut(QPainter& painter, WellComponent const& compone
     double const bore = Pixels(pipe->GetNonNullId()) * 0.5;
     // Through the wall, and far enough into the bore to be seen where the wall is a pixel or two.
     double const point = std::max(bore - 2 * half_height, 0.0);
-    SymbolPainter const symbol(painter, scheme.component);
-    OnBothSides([&](double side) {
-        double const base = g.center + side * g.half_width;
-        Quorrel::DrawShape(painter,
-                           {QPointF(base, g.Middle() - half_height), QPointF(base, g.Middle() + half_height),
-                            QPointF(g.center + side * point, g.Middle())});
-    });
+    DrawSymbol(
+        painter, component, g, g.Rect(),
+        [&](QPainter& symbol) {
+            symbol.setBrush(scheme.component);
+            OnBothSides([&](double side) {
+                double const base = g.center + side * g.half_width;
+                Quorrel::DrawShape(symbol, {QPointF(base, g.Middle() - half_height),
+                                            QPointF(base, g.Middle() + half_height),
+                                            QPointF(g.center + side * point, g.Middle())});
+            });
+        },
+        point);
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }
 
@@ -210,10 +213,12 @@ void WellSketchRenderer::DrawStraddle(QPainter& painter, WellComponent const& co
     double const radius = 0.7 * g.half_width;
     double const wall = 0.2 * g.half_width;
     double const height = 0.7 * g.height;
-    SymbolPainter const symbol(painter, scheme.component);
-    OnBothSides([&](double side) {
-        double const x = side < 0 ? g.center - radius : g.center + radius - wall;
-        Quorrel::DrawFrame(painter, QRectF(x, g.Middle() - height / 2, wall, height));
+    DrawSymbol(painter, component, g, g.Rect(), [&](QPainter& symbol) {
+        symbol.setBrush(scheme.component);
+        OnBothSides([&](double side) {
+            double const x = side < 0 ? g.center - radius : g.center + radius - wall;
+            Quorrel::DrawFrame(symbol, QRectF(x, g.Middle() - height / 2, wall, height));
+        });
     });
     CreateComponentBoundingBox(component, g.left, 2 * g.half_width, g.top, g.height);
 }

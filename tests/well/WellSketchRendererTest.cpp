@@ -177,6 +177,41 @@ TEST_F(WellSketchRendererTest, SymbolsHaveTheirShapes)
     }
 }
 
+TEST_F(WellSketchRendererTest, SymbolsKeptLookLikeNewOnes)
+{
+    QList<WellComponent> items;
+    for (int i = 0; i < 114; ++i) {
+        items.append(Item(8.7 * i, 8.7 * i + 4 * (i % 5), EveryType()[static_cast<std::size_t>(i % 19)]));
+    }
+    auto const draw = [](Sketch& sketch, Interval const& view, double dpi, int pixel, bool is_print) {
+        QImage image(sketch.image.size() * pixel, sketch.image.format());
+        image.setDevicePixelRatio(pixel);
+        image.fill(Qt::blue);
+        QPainter painter(&image);
+        painter.setWindow(0, 0, sketch_well::WIDTH, sketch_well::HEIGHT);
+        painter.setViewport(0, 0, sketch_well::WIDTH, sketch_well::HEIGHT);
+        sketch.renderer.RenderToPainter(painter, view, dpi, dpi,
+                                        is_print ? WellSketchRenderer::PrintScheme() : sketch_well::Scheme());
+        return image;
+    };
+    Sketch kept(Strings(), items);
+    QImage last;
+    for (auto const& [view, dpi, pixel, is_print] :
+         std::vector<std::tuple<Interval, double, int, bool>>{{{0, 1000}, 100, 1, false},
+                                                              {{-37.3, 962.7}, 100, 1, false},
+                                                              {{-37.3, 962.7}, 100, 1, true},
+                                                              {{-37.3, 962.7}, 150, 1, true},
+                                                              {{-37.3, 962.7}, 150, 2, true},
+                                                              {{350, 700}, 150, 2, true},
+                                                              {{350, 700}, 100, 1, false}}) {
+        Sketch fresh(Strings(), items, Interval()); // has drawn nothing yet
+        QImage const image = draw(kept, view, dpi, pixel, is_print);
+        EXPECT_TRUE(image == draw(fresh, view, dpi, pixel, is_print)) << view.lower << " " << dpi;
+        EXPECT_FALSE(image == last);
+        last = image;
+    }
+}
+
 TEST_F(WellSketchRendererTest, AreasFollowTheWalls)
 {
     // A cement plug fills the liner's bore, fill reaches down to the end of the path.

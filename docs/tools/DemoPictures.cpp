@@ -4,18 +4,16 @@
 // demo_pictures <project> <docs/images>: opens the demo project and takes a picture of each of its surveys.
 // Runs without a display.
 
+#include "PictureProgram.h"
+
 #include "app/QuorrelFrame.h"
 #include "app/SurveyComboBox.h"
-#include "app/kit/SettingsSingleton.h"
-#include "resources/Resources.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QEventLoop>
-#include <QSettings>
-#include <QTemporaryDir>
 
 #include <cstdio>
+#include <stdexcept>
 
 namespace {
 void Settle()
@@ -37,7 +35,7 @@ bool Load(QuorrelFrame& frame, QString const& project)
     return is_loaded;
 }
 
-bool Take(QString const& project, QString const& images)
+void Take(QString const& project, QString const& images)
 {
     QuorrelFrame frame;
     frame.setWindowState(Qt::WindowNoState);
@@ -45,7 +43,7 @@ bool Take(QString const& project, QString const& images)
     frame.show();
     Settle();
     if (!Load(frame, project))
-        return false;
+        throw std::runtime_error("Cannot load " + project.toStdString());
     auto* const surveys = frame.findChild<SurveyComboBox*>();
     int index = 0;
     for (char const* const name : {"open-hole", "production", "caliper"}) {
@@ -54,30 +52,13 @@ bool Take(QString const& project, QString const& images)
         Settle();
         QString const file = QString("%1/demo-%2.png").arg(images, name);
         if (!frame.grab().save(file))
-            return false;
+            throw std::runtime_error("Cannot write " + file.toStdString());
         std::printf("%s\n", qPrintable(file));
     }
-    return true;
 }
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::fprintf(stderr, "Usage: demo_pictures <project> <docs/images>\n");
-        return 2;
-    }
-    // Static, so that it outlives the settings, which are written after main() has returned.
-    static QTemporaryDir const store;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, store.path());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInitResources_Quorrel();
-    QApplication application(argc, argv);
-    QCoreApplication::setOrganizationName("MyCorp");
-    auto& settings = SettingsSingleton::Instance();
-    settings.SetAutomaticCheckForUpdates(false);
-    settings.SetIsMaximized(false);
-    QDir().mkpath(argv[2]);
-    return Take(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2])) ? 0 : 1;
+    return RunPictureProgram(argc, argv, "demo_pictures <project> <docs/images>", Take);
 }

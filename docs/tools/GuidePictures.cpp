@@ -4,11 +4,12 @@
 // guide_pictures <examples/las> <docs/images>: drives the main window through what the user guide tells and
 // takes its pictures. Runs without a display.
 
+#include "PictureProgram.h"
+
 #include "app/QuorrelFrame.h"
 #include "app/SettingsDialog.h"
 #include "app/kit/Globals.h"
 #include "app/kit/Interval.h"
-#include "app/kit/SettingsSingleton.h"
 #include "display/AutomaticDataView.h"
 #include "display/BaseCombinedViewWidget.h"
 #include "display/BaseScaleDialog.h"
@@ -16,16 +17,12 @@
 #include "display/CombinedDataViewWidget.h"
 #include "formats/las/LASFile.h"
 #include "model/LogDepthQuestion.h"
-#include "resources/Resources.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QMouseEvent>
-#include <QSettings>
-#include <QTemporaryDir>
 
 #include <cstdio>
-#include <exception>
+#include <stdexcept>
 
 namespace {
 class GuidePictures
@@ -173,28 +170,9 @@ private:
 
 int main(int argc, char** argv)
 {
-    if (argc != 3) {
-        std::fprintf(stderr, "Usage: guide_pictures <examples/las> <docs/images>\n");
-        return 2;
-    }
-    // Static, so that it outlives the settings, which are written after main() has returned.
-    static QTemporaryDir const store;
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, store.path());
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInitResources_Quorrel();
-    QApplication application(argc, argv);
-    QCoreApplication::setOrganizationName("MyCorp");
-    auto& settings = SettingsSingleton::Instance();
-    settings.SetAutomaticCheckForUpdates(false);
-    settings.SetIsMaximized(false);
-    settings.SetMetricDepth(true);
-    try {
-        QDir().mkpath(argv[2]);
-        GuidePictures(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2])).Take();
-    } catch (std::exception const& error) {
-        std::fprintf(stderr, "%s\n", error.what());
-        return 1;
-    }
-    return 0;
+    return RunPictureProgram(argc, argv, "guide_pictures <examples/las> <docs/images>",
+                             [](QString const& examples, QString const& images) {
+                                 SettingsSingleton::Instance().SetMetricDepth(true);
+                                 GuidePictures(examples, images).Take();
+                             });
 }

@@ -66,11 +66,11 @@ struct Sketch
     WellSketchRenderer renderer{strings, components, survey, boxes, polygons};
     QImage image{WIDTH, HEIGHT, QImage::Format_ARGB32_Premultiplied};
 
-    void Render()
+    void Render(double dpi = DPI)
     {
         image.fill(Qt::black);
         QPainter painter(&image);
-        renderer.RenderToPainter(painter, view, DPI, DPI, WellSketchRenderer::ScreenScheme());
+        renderer.RenderToPainter(painter, view, dpi, dpi, WellSketchRenderer::ScreenScheme());
     }
 };
 
@@ -82,6 +82,17 @@ void RenderSketch(benchmark::State& state)
     }
     state.counters["rectangles"] = static_cast<double>(sketch.boxes.size());
     state.counters["polygons"] = static_cast<double>(sketch.polygons.size());
+}
+
+/// With another resolution each time, so that no symbol is there from before.
+void RenderSketchAnew(benchmark::State& state)
+{
+    Sketch sketch;
+    double dpi = DPI;
+    for (auto _ : state) {
+        dpi = 2 * DPI + 0.001 - dpi;
+        sketch.Render(dpi);
+    }
 }
 
 void FillSameRectangles(benchmark::State& state)
@@ -107,6 +118,7 @@ void FillSameRectangles(benchmark::State& state)
 
 // Large fills are shared with threads of the pool, so the CPU time counted is that of the whole process.
 BENCHMARK(RenderSketch)->Unit(benchmark::kMicrosecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(RenderSketchAnew)->Unit(benchmark::kMicrosecond)->MeasureProcessCPUTime()->UseRealTime();
 BENCHMARK(FillSameRectangles)->Unit(benchmark::kMicrosecond)->MeasureProcessCPUTime()->UseRealTime();
 } // namespace
 

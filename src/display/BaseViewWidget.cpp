@@ -77,7 +77,7 @@ void BaseViewWidget::UpdateCrossHair()
 
 bool BaseViewWidget::DrawsMoreThanCrossHair() const
 {
-    return selection_start_x_ >= 0 || selection_start_y_ >= 0 || press_x_ >= 0;
+    return IsDragging();
 }
 
 void BaseViewWidget::SetSelectionStartRow(int y)

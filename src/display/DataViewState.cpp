@@ -50,27 +50,6 @@ void IntermediateDataView::RestoreState_IntermediateDataView(INTERMEDIATE_DATAVI
     }
 }
 
-void DepthCurveVector::WriteState(USER_DATAVIEW_STRUCT& record) const
-{
-    record.curves.clear();
-    for (DepthCurve const& curve : *this) {
-        record.curves.push_back(curve.GetDataChannelIdentifier());
-    }
-}
-
-void DepthCurveVector::RestoreState(USER_DATAVIEW_STRUCT const& record)
-{
-    for (auto const& stored : record.scales) {
-        auto const index = static_cast<std::size_t>(stored->index);
-        DepthCurve* const curve = index < record.curves.size() ? Find(record.curves[index]) : nullptr;
-        if (curve != nullptr) {
-            curve->SetScales(stored->scale);
-            curve->SetCurvePen(stored->pen);
-            curve->GetScaleItemParameters()->is_selected = stored->is_selected;
-        }
-    }
-}
-
 USER_DATAVIEW_STRUCT UserDataView::WriteState_UserDataView() const
 {
     USER_DATAVIEW_STRUCT record;

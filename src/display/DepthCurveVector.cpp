@@ -3,6 +3,7 @@
 
 #include "display/DepthCurveVector.h"
 
+#include "formats/project/ViewRecords.h"
 #include "model/BaseDepthDataChannel.h"
 
 #include <algorithm>
@@ -84,5 +85,26 @@ void DepthCurveVector::ClearAllProcessedCurves()
 {
     for (DepthCurve& curve : *this) {
         curve.ClearProcessedCurve();
+    }
+}
+
+void DepthCurveVector::WriteState(USER_DATAVIEW_STRUCT& record) const
+{
+    record.curves.clear();
+    for (DepthCurve const& curve : *this) {
+        record.curves.push_back(curve.GetDataChannelIdentifier());
+    }
+}
+
+void DepthCurveVector::RestoreState(USER_DATAVIEW_STRUCT const& record)
+{
+    for (auto const& stored : record.scales) {
+        auto const index = static_cast<std::size_t>(stored->index);
+        DepthCurve* const curve = index < record.curves.size() ? Find(record.curves[index]) : nullptr;
+        if (curve != nullptr) {
+            curve->SetScales(stored->scale);
+            curve->SetCurvePen(stored->pen);
+            curve->GetScaleItemParameters()->is_selected = stored->is_selected;
+        }
     }
 }

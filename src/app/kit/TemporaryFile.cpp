@@ -45,6 +45,11 @@ QString TemporaryFile::GetFullTemporaryFileName()
     return full_temporary_file_name_;
 }
 
+QString TemporaryFile::GetSetAsideName(QString const& destination)
+{
+    return destination + QStringLiteral(".tmp");
+}
+
 bool TemporaryFile::MoveTemporaryFileToDestination()
 {
     QFileInfo const destination(destination_);
@@ -55,7 +60,7 @@ bool TemporaryFile::MoveTemporaryFileToDestination()
     if (!destination.exists()) {
         return Rename(full_temporary_file_name_, destination_);
     }
-    QString const previous = destination_ + QStringLiteral(".tmp");
+    QString const previous = GetSetAsideName(destination_);
     if (!Rename(destination_, previous)) {
         return false;
     }

@@ -19,8 +19,11 @@ public:
     /// Path inside the private directory with the destination's file name; empty when there is no directory.
     [[nodiscard]] QString GetFullTemporaryFileName();
 
-    /// Renames the temporary file to the destination; an existing destination is kept as destination + ".tmp"
-    /// until that has succeeded, and is put back when it has not. True on success.
+    /// Where an existing destination is kept until its replacement stands: the name + ".tmp".
+    [[nodiscard]] static QString GetSetAsideName(QString const& destination);
+
+    /// Renames the temporary file to the destination; an existing destination is set aside until that has
+    /// succeeded, and is put back when it has not. True on success.
     [[nodiscard]] bool MoveTemporaryFileToDestination();
 
 private:

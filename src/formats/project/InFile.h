@@ -13,7 +13,7 @@
 /// A binary input stream that throws on every failed read. A read past the end, also one that a length in the
 /// file announces, is a std::ios_base::failure "Reached premature end-of-file", before anything is allocated
 /// for it; other stream failures keep their own text.
-class InFile : protected std::ifstream
+class InFile : private std::ifstream
 {
 public:
     /// @throws std::ios_base::failure, std::runtime_error when the file cannot be opened

@@ -137,7 +137,7 @@ void project_file::Save(QString const& path, DataContainer const& container,
         }
     }
     // No folder for a temporary file, or one on another volume than the destination.
-    auto const previous = path + ".tmp";
+    auto const previous = TemporaryFile::GetSetAsideName(path);
     bool const is_set_aside = !QFile::exists(path) && QFile::exists(previous);
     try {
         Write(path, container, windows, current_survey_key);
